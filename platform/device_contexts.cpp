@@ -1,0 +1,66 @@
+#include "platform/device_contexts.h"
+
+#include "platform/windows.h"
+
+#include <cstdint>
+
+namespace platform {
+
+namespace {
+
+// A window has one device context, for as long as it lives, and both handles are one number.
+HDC ownContextOf(HWND window)
+{
+    return reinterpret_cast<HDC>(window);
+}
+
+HWND windowOf(HDC deviceContext)
+{
+    return reinterpret_cast<HWND>(deviceContext);
+}
+
+// No window's handle comes to this number.
+HDC screenContext()
+{
+    return reinterpret_cast<HDC>(UINTPTR_MAX);
+}
+
+} // namespace
+
+desktop::NativeWindow nativeOf(HDC deviceContext)
+{
+    return nativeOf(windowOf(deviceContext));
+}
+
+} // namespace platform
+
+using namespace platform;
+
+HDC GetDC(HWND window)
+{
+    if (window == nullptr)
+        return screenContext();
+    return findWindow(window) == nullptr ? nullptr : ownContextOf(window);
+}
+
+int ReleaseDC(HWND window, HDC deviceContext)
+{
+    return deviceContext != nullptr && deviceContext == GetDC(window) ? 1 : 0;
+}
+
+int GetDeviceCaps(HDC deviceContext, int index)
+{
+    desktop::Size size;
+    if (deviceContext != screenContext() && nativeOf(deviceContext) == 0)
+        return 0;
+    if (!desktop::size(size))
+        return 0;
+    switch (index) {
+    case HORZRES:
+        return size.width;
+    case VERTRES:
+        return size.height;
+    default:
+        return 0;
+    }
+}

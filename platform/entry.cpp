@@ -1,0 +1,32 @@
+#include "platform/desktop.h"
+#include "platform/signals.h"
+
+#include <span>
+#include <string>
+#include <utility>
+
+namespace {
+
+std::string joinedByBlanks(std::span<char* const> arguments)
+{
+    std::string line;
+    const char* separator = "";
+    for (const char* argument : arguments)
+        line.append(std::exchange(separator, " ")).append(argument);
+    return line;
+}
+
+} // namespace
+
+int main(int argumentCount, char** arguments)
+{
+    platform::installEndSignals();
+    platform::desktop::chooseHost(argumentCount, arguments);
+    platform::desktop::chooseHost(argumentCount, arguments);
+    // The first argument is the program; a host may have given not even that.
+    const std::span<char* const> all(arguments, static_cast<std::size_t>(argumentCount));
+    std::string commandLine = joinedByBlanks(all.empty() ? all : all.subspan(1));
+    const int status = WinMain(GetModuleHandleA(nullptr), nullptr, commandLine.data(), SW_SHOW);
+    platform::desktop::disconnect();
+    return status;
+}

@@ -1,0 +1,130 @@
+#include "platform/message_queue.h"
+
+#include "platform/desktop.h"
+#include "platform/signals.h"
+#include "platform/windows.h"
+
+#include <cstdint>
+#include <optional>
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+constinit std::optional<MSG> waiting; // looked at, but not removed
+constinit std::optional<int> quitCode;
+constinit bool closeAsked = false;             // by a signal, and told
+constinit const POINT* handledPlace = nullptr; // of the mouse message being dispatched
+
+// A signal asks the newest window to close, once: what it asks for is the window's to decide.
+std::optional<MSG> closeBySignal()
+{
+    const HWND window = newestWindow();
+    if (closeAsked || window == nullptr || !endRequested())
+        return std::nullopt;
+    closeAsked = true;
+    return MSG{window, WM_CLOSE, 0, 0, 0, {}};
+}
+
+// What is sent rather than queued goes to the procedure here and now.
+bool sentAtOnce(HWND window, const desktop::Message& message)
+{
+    switch (message.message) {
+    case WM_SIZE:
+        tellSize(window, {LOWORD(static_cast<std::uintptr_t>(message.lParam)),
+                          HIWORD(static_cast<std::uintptr_t>(message.lParam))});
+        return true;
+    case WM_ACTIVATE:
+        sendMessage(window, message.message, message.wParam, message.lParam);
+        return true;
+    default:
+        return false;
+    }
+}
+
+std::optional<MSG> nextFromDesktop()
+{
+    desktop::Message message;
+    while (desktop::nextMessage(message)) {
+        const HWND window = handleOf(message.window);
+        const bool gone = window == nullptr; // it has been destroyed since
+        if (!gone && !sentAtOnce(window, message))
+            return MSG{window, message.message, message.wParam, message.lParam, 0, message.pointer};
+    }
+    return std::nullopt;
+}
+
+// The quit comes only when nothing else waits, and once.
+std::optional<MSG> quit()
+{
+    if (!quitCode)
+        return std::nullopt;
+    const auto code = static_cast<WPARAM>(*std::exchange(quitCode, std::nullopt));
+    return MSG{nullptr, WM_QUIT, code, 0, 0, {}};
+}
+
+std::optional<MSG> nextMessage()
+{
+    for (const auto source : {closeBySignal, nextFromDesktop, quit})
+        if (std::optional<MSG> message = source())
+            return message;
+    return std::nullopt;
+}
+
+constexpr bool isMouseMessage(UINT message)
+{
+    return message >= WM_MOUSEMOVE && message <= WM_MBUTTONUP;
+}
+
+} // namespace
+
+bool pointerOfHandledMessage(POINT& result)
+{
+    if (handledPlace == nullptr)
+        return false;
+    result = *handledPlace;
+    return true;
+}
+
+} // namespace platform
+
+using namespace platform;
+
+BOOL PeekMessageA(MSG* message, HWND /*window*/, UINT /*first*/, UINT /*last*/, UINT remove)
+{
+    if (message == nullptr)
+        return FALSE;
+    if (!waiting)
+        waiting = nextMessage();
+    if (!waiting)
+        return FALSE;
+    *message = *waiting;
+    if ((remove & PM_REMOVE) != 0)
+        waiting.reset();
+    return TRUE;
+}
+
+LRESULT DispatchMessageA(const MSG* message)
+{
+    if (message == nullptr)
+        return 0;
+    const POINT* place = isMouseMessage(message->message) ? &message->pt : nullptr;
+    const POINT* outerPlace = std::exchange(handledPlace, place);
+    const LRESULT result =
+        sendMessage(message->hwnd, message->message, message->wParam, message->lParam);
+    handledPlace = outerPlace;
+    return result;
+}
+
+LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM /*lParam*/)
+{
+    if (message == WM_SYSKEYDOWN && wParam == VK_F4)
+        sendMessage(window, WM_CLOSE, 0, 0);
+    return 0;
+}
+
+void PostQuitMessage(int exitCode)
+{
+    quitCode = exitCode;
+}

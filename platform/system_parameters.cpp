@@ -1,0 +1,15 @@
+#include "platform/desktop.h"
+
+BOOL SystemParametersInfoA(UINT action, UINT parameter, LPVOID /*buffer*/, UINT /*flags*/)
+{
+    if (action != SPI_SETSCREENSAVERRUNNING)
+        return FALSE;
+    platform::desktop::setScreenSaverRunning(parameter != 0);
+    return TRUE;
+}
+
+// Our windows have no border; 1 is its width on a desktop that draws one.
+int GetSystemMetrics(int index)
+{
+    return index == SM_CXBORDER || index == SM_CYBORDER ? 1 : 0;
+}

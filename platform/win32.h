@@ -1,0 +1,12 @@
+#pragma once
+
+// What the shell includes: the system's own header on Windows, ours elsewhere.
+#ifdef _WIN32
+#define WIN32_LEAN_AND_MEAN
+#define NOMINMAX
+#include <windows.h>
+#undef far
+#undef near
+#else
+#include "platform/win32_names.h"
+#endif

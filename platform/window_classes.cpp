@@ -1,0 +1,72 @@
+#include "platform/window_classes.h"
+
+#include "platform/windows.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <string>
+#include <strings.h>
+#include <vector>
+
+namespace platform {
+
+namespace {
+
+struct RegisteredClass {
+    std::string name;
+    WindowClass windowClass;
+};
+
+constinit std::vector<RegisteredClass> classes;
+constinit ATOM nextAtom = 0xC000; // where the atoms of named things begin
+
+auto findByName(LPCSTR name)
+{
+    return std::find_if(classes.begin(), classes.end(), [name](const RegisteredClass& entry) {
+        return name != nullptr && strcasecmp(entry.name.c_str(), name) == 0;
+    });
+}
+
+} // namespace
+
+WindowClass findWindowClass(LPCSTR name)
+{
+    const auto found = findByName(name);
+    return found == classes.end() ? WindowClass{} : found->windowClass;
+}
+
+} // namespace platform
+
+ATOM RegisterClassA(const WNDCLASSA* windowClass)
+{
+    using namespace platform;
+    if (windowClass == nullptr || windowClass->lpszClassName == nullptr ||
+        windowClass->lpfnWndProc == nullptr ||
+        findByName(windowClass->lpszClassName) != classes.end())
+        return 0;
+    const ATOM atom = nextAtom++;
+    classes.push_back({windowClass->lpszClassName, {atom, windowClass->lpfnWndProc}});
+    return atom;
+}
+
+BOOL UnregisterClassA(LPCSTR className, HINSTANCE /*instance*/)
+{
+    using namespace platform;
+    const auto found = findByName(className);
+    if (found == classes.end() || hasWindowOf(found->windowClass.atom))
+        return FALSE;
+    classes.erase(found);
+    return TRUE;
+}
+
+// The desktop draws no icon and no other pointer for us: the names are handles enough.
+HICON LoadIconA(HINSTANCE instance, LPCSTR iconName)
+{
+    return instance == nullptr ? reinterpret_cast<HICON>(reinterpret_cast<std::uintptr_t>(iconName))
+                               : nullptr;
+}
+
+HCURSOR LoadCursorA(HINSTANCE instance, LPCSTR cursorName)
+{
+    return LoadIconA(instance, cursorName);
+}

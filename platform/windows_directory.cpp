@@ -1,0 +1,22 @@
+#include "platform/windows_directory.h"
+
+#include <system_error>
+
+namespace platform {
+
+std::filesystem::path windowsDirectory(const char* wished, const std::filesystem::path& executable,
+                                       const std::filesystem::path& installed)
+{
+    if (wished != nullptr && *wished != '\0')
+        return wished;
+    for (const char* place : {"windows", "../../share/quazo", "../share/quazo"}) {
+        const std::filesystem::path directory =
+            (executable.parent_path() / place).lexically_normal();
+        std::error_code unreadable;
+        if (std::filesystem::is_directory(directory, unreadable))
+            return directory;
+    }
+    return installed;
+}
+
+} // namespace platform

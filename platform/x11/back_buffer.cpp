@@ -1,0 +1,168 @@
+#define GL_GLEXT_PROTOTYPES
+
+#include "platform/x11/back_buffer.h"
+
+#include <GL/glext.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <cstring>
+
+namespace platform::x11 {
+
+namespace {
+
+constexpr GLint channelBits = 16;
+constexpr GLuint windowsOwn = 0; // the framebuffer that GLX made with the window
+
+// Puts the program's bindings back. In between there is no scissor test, which would cut copies.
+class BindingScope {
+public:
+    BindingScope() : scissorTest(glIsEnabled(GL_SCISSOR_TEST))
+    {
+        glGetIntegerv(GL_DRAW_FRAMEBUFFER_BINDING, &drawFramebuffer);
+        glGetIntegerv(GL_READ_FRAMEBUFFER_BINDING, &readFramebuffer);
+        glGetIntegerv(GL_RENDERBUFFER_BINDING, &renderbuffer);
+        glDisable(GL_SCISSOR_TEST);
+    }
+    ~BindingScope()
+    {
+        if (scissorTest != GL_FALSE)
+            glEnable(GL_SCISSOR_TEST);
+        glBindRenderbuffer(GL_RENDERBUFFER, static_cast<GLuint>(renderbuffer));
+        glBindFramebuffer(GL_READ_FRAMEBUFFER, static_cast<GLuint>(readFramebuffer));
+        glBindFramebuffer(GL_DRAW_FRAMEBUFFER, static_cast<GLuint>(drawFramebuffer));
+    }
+    BindingScope(const BindingScope&) = delete;
+    BindingScope& operator=(const BindingScope&) = delete;
+
+private:
+    GLboolean scissorTest;
+    GLint drawFramebuffer = 0, readFramebuffer = 0, renderbuffer = 0;
+};
+
+bool framebuffersOffered()
+{
+    const auto* version = reinterpret_cast<const char*>(glGetString(GL_VERSION));
+    const auto* extensions = reinterpret_cast<const char*>(glGetString(GL_EXTENSIONS));
+    return (version != nullptr && std::atoi(version) >= 3) ||
+           (extensions != nullptr &&
+            std::strstr(extensions, "GL_ARB_framebuffer_object") != nullptr);
+}
+
+GLint pixelParameter(GLenum name)
+{
+    GLint value = 0;
+    glGetRenderbufferParameteriv(GL_RENDERBUFFER, name, &value);
+    return value;
+}
+
+// A renderbuffer of this format and size, or 0. Asking it what it became tells a refusal without
+// glGetError, which would take an error of the program away; that is only called to take back
+// the one that a refusal has raised.
+GLuint makePixels(GLenum format, desktop::Size size)
+{
+    GLuint name = 0;
+    glGenRenderbuffers(1, &name);
+    glBindRenderbuffer(GL_RENDERBUFFER, name);
+    glRenderbufferStorage(GL_RENDERBUFFER, format, size.width, size.height);
+    if (pixelParameter(GL_RENDERBUFFER_WIDTH) == size.width &&
+        pixelParameter(GL_RENDERBUFFER_HEIGHT) == size.height &&
+        pixelParameter(GL_RENDERBUFFER_RED_SIZE) == channelBits)
+        return name;
+    glDeleteRenderbuffers(1, &name);
+    glGetError();
+    return 0;
+}
+
+void attach(GLuint framebuffer, GLuint pixels)
+{
+    glBindFramebuffer(GL_DRAW_FRAMEBUFFER, framebuffer);
+    glFramebufferRenderbuffer(GL_DRAW_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, pixels);
+}
+
+// Makes what is bound for drawing opaque, and its colours black if they are to go as well.
+void clear(GLboolean colours)
+{
+    std::array<GLboolean, 4> mask{};
+    std::array<GLfloat, 4> value{};
+    glGetBooleanv(GL_COLOR_WRITEMASK, mask.data());
+    glGetFloatv(GL_COLOR_CLEAR_VALUE, value.data());
+    glColorMask(colours, colours, colours, GL_TRUE);
+    glClearColor(0.0f, 0.0f, 0.0f, 1.0f);
+    glClear(GL_COLOR_BUFFER_BIT);
+    glClearColor(value[0], value[1], value[2], value[3]);
+    glColorMask(mask[0], mask[1], mask[2], mask[3]);
+}
+
+void copy(GLuint source, GLuint target, desktop::Size size)
+{
+    glBindFramebuffer(GL_READ_FRAMEBUFFER, source);
+    glBindFramebuffer(GL_DRAW_FRAMEBUFFER, target);
+    glBlitFramebuffer(0, 0, size.width, size.height, 0, 0, size.width, size.height,
+                      GL_COLOR_BUFFER_BIT, GL_NEAREST);
+}
+
+} // namespace
+
+bool BackBuffer::create(desktop::Size size, GLenum wantedFormat)
+{
+    if (!framebuffersOffered())
+        return false;
+    {
+        const BindingScope restored;
+        const GLuint made = makePixels(wantedFormat, size);
+        if (made == 0)
+            return false;
+        std::array<GLuint, 2> targets{};
+        glGenFramebuffers(2, targets.data());
+        for (const GLuint target : targets)
+            attach(target, made);
+        if (glCheckFramebufferStatus(GL_DRAW_FRAMEBUFFER) != GL_FRAMEBUFFER_COMPLETE) {
+            glDeleteFramebuffers(2, targets.data());
+            glDeleteRenderbuffers(1, &made);
+            return false;
+        }
+        clear(GL_TRUE);
+        drawTarget = targets[0];
+        copySource = targets[1];
+        pixels = made;
+        format = wantedFormat;
+        extent = size;
+    }
+    glBindFramebuffer(GL_FRAMEBUFFER, drawTarget);
+    return true;
+}
+
+void BackBuffer::fit(desktop::Size size)
+{
+    if (drawTarget == 0 || (size.width == extent.width && size.height == extent.height))
+        return;
+    const BindingScope restored;
+    const GLuint made = makePixels(format, size);
+    if (made == 0)
+        return;
+    attach(drawTarget, made);
+    clear(GL_TRUE);
+    copy(copySource, drawTarget,
+         {std::min(size.width, extent.width), std::min(size.height, extent.height)});
+    attach(copySource, made);
+    glDeleteRenderbuffers(1, &pixels);
+    pixels = made;
+    extent = size;
+}
+
+void BackBuffer::present() const
+{
+    if (drawTarget == 0)
+        return;
+    const BindingScope restored;
+    if (format == GL_RGBA16) {
+        glBindFramebuffer(GL_DRAW_FRAMEBUFFER, copySource);
+        clear(GL_FALSE);
+    }
+    copy(copySource, windowsOwn, extent);
+}
+
+} // namespace platform::x11

@@ -1,0 +1,64 @@
+#include "platform/x11/desktop_area.h"
+
+#include "platform/x11/display.h"
+#include "platform/x11/host_window.h"
+
+#include <X11/extensions/Xrandr.h>
+
+#include <algorithm>
+#include <memory>
+#include <span>
+
+namespace platform::x11 {
+
+namespace {
+
+bool knowsMonitors(Display* display)
+{
+    int event = 0, error = 0, major = 0, minor = 0;
+    return XRRQueryExtension(display, &event, &error) != 0 &&
+           XRRQueryVersion(display, &major, &minor) != 0 && (major > 1 || minor >= 5);
+}
+
+} // namespace
+
+desktop::Size sizeOf(Display* display, ::Window window)
+{
+    ::Window root = 0;
+    int x = 0, y = 0;
+    unsigned int width = 0, height = 0, border = 0, depth = 0;
+    XGetGeometry(display, window, &root, &x, &y, &width, &height, &border, &depth);
+    return {static_cast<int>(width), static_cast<int>(height)};
+}
+
+DesktopArea desktopArea(Display* display)
+{
+    if (hosted())
+        return {hostWindow(), {0, 0}, sizeOf(display, hostWindow())};
+    const ::Window root = DefaultRootWindow(display);
+    const DesktopArea screen{root, {0, 0}, sizeOf(display, root)};
+    if (!knowsMonitors(display))
+        return screen;
+    int count = 0;
+    const std::unique_ptr<XRRMonitorInfo, decltype(&XRRFreeMonitors)> list(
+        XRRGetMonitors(display, root, True, &count), &XRRFreeMonitors);
+    if (list == nullptr || count <= 0)
+        return screen;
+    // Where no monitor is the primary one, the first one is.
+    const std::span monitors(list.get(), static_cast<std::size_t>(count));
+    const auto isPrimary = [](const XRRMonitorInfo& monitor) { return monitor.primary != 0; };
+    const auto primary = std::find_if(monitors.begin(), monitors.end(), isPrimary);
+    const XRRMonitorInfo& chosen = primary == monitors.end() ? monitors.front() : *primary;
+    return {root, {chosen.x, chosen.y}, {chosen.width, chosen.height}};
+}
+
+} // namespace platform::x11
+
+bool platform::desktop::size(Size& result)
+{
+    Display* const display = x11::connection();
+    if (display == nullptr)
+        return false;
+    result = x11::desktopArea(display).size;
+    return true;
+}

@@ -1,0 +1,126 @@
+#include "platform/x11/display.h"
+
+#include "platform/x11/host_window.h"
+
+#include <X11/XKBlib.h>
+
+#include <array>
+#include <cstddef>
+#include <unistd.h>
+
+namespace platform::x11 {
+
+namespace {
+
+constexpr auto atomCount = static_cast<std::size_t>(AtomName::count);
+
+// In the order of AtomName.
+constexpr std::array<const char*, atomCount> atomTexts = {
+    "WM_PROTOCOLS",
+    "WM_DELETE_WINDOW",
+    "WM_STATE",
+    "_NET_WM_PING",
+    "_NET_WM_PID",
+    "_NET_WM_NAME",
+    "_NET_WM_STATE",
+    "_NET_WM_STATE_ABOVE",
+    "_NET_WM_STATE_FULLSCREEN",
+    "_NET_WM_STATE_HIDDEN",
+    "_NET_WM_BYPASS_COMPOSITOR",
+    "_NET_SUPPORTING_WM_CHECK",
+    "_NET_ACTIVE_WINDOW",
+    "_MOTIF_WM_HINTS",
+    "UTF8_STRING",
+    "_QUAZO_SCREENSAVER_RUNNING",
+};
+
+constinit Display* theConnection = nullptr;
+constinit bool tried = false;
+constinit std::array<Atom, atomCount> atoms{};
+constinit XErrorTrap* innermostTrap = nullptr;
+
+int endQuietly(Display* /*display*/)
+{
+    _exit(0);
+}
+
+void open()
+{
+    tried = true;
+    theConnection = XOpenDisplay(nullptr);
+    if (theConnection == nullptr)
+        return;
+    installErrorHandlers();
+    auto texts = atomTexts;
+    XInternAtoms(theConnection, const_cast<char**>(texts.data()), static_cast<int>(atomCount),
+                 False, atoms.data());
+    // A key that is held then repeats its press alone: it does not look let go in between.
+    XkbSetDetectableAutoRepeat(theConnection, True, nullptr);
+    adoptHost(theConnection);
+}
+
+} // namespace
+
+Display* connection()
+{
+    if (!tried)
+        open();
+    return theConnection;
+}
+
+Display* openConnection()
+{
+    return theConnection;
+}
+
+void closeConnection()
+{
+    if (theConnection != nullptr)
+        XCloseDisplay(theConnection);
+    theConnection = nullptr;
+    tried = false;
+}
+
+void installErrorHandlers()
+{
+    XSetErrorHandler(&XErrorTrap::note);
+    XSetIOErrorHandler(&endQuietly);
+}
+
+XErrorTrap::XErrorTrap(Display* display)
+    : server(display),
+      outer(innermostTrap),
+      firstRequest(NextRequest(display))
+{
+    innermostTrap = this;
+}
+
+XErrorTrap::~XErrorTrap()
+{
+    innermostTrap = outer;
+}
+
+int XErrorTrap::firstError()
+{
+    XSync(server, False);
+    return errorCode;
+}
+
+int XErrorTrap::note(Display* source, XErrorEvent* error)
+{
+    if (meansHostIsGone(*error))
+        endQuietly(source);
+    XErrorTrap* trap = innermostTrap;
+    while (trap != nullptr && (trap->server != source || error->serial < trap->firstRequest))
+        trap = trap->outer;
+    if (trap != nullptr && trap->errorCode == 0)
+        trap->errorCode = error->error_code;
+    return 0;
+}
+
+Atom atom(AtomName name)
+{
+    return atoms[static_cast<std::size_t>(name)];
+}
+
+} // namespace platform::x11

@@ -1,0 +1,229 @@
+#include "platform/desktop.h"
+#include "platform/x11/display.h"
+#include "platform/x11/host_window.h"
+#include "platform/x11/keys.h"
+#include "platform/x11/window.h"
+#include "platform/x11/window_manager.h"
+
+#include <X11/Xutil.h>
+
+#include <algorithm>
+#include <bitset>
+#include <iterator>
+
+namespace platform::x11 {
+
+namespace {
+
+using desktop::Message;
+
+constexpr int altKey = 0x12;
+
+// The keys, by keycode, whose press was told since nothing waited the last time.
+constinit std::bitset<256> justPressed;
+
+Message plainMessage(const WindowRecord& record, UINT kind, WPARAM wParam, LPARAM lParam)
+{
+    return {record.id, kind, wParam, lParam, {}};
+}
+
+// `event` is of one of the types that say where the pointer is, which lay it out alike.
+template <typename Event>
+Message pointerMessage(const WindowRecord& record, UINT kind, const Event& event)
+{
+    Message message = plainMessage(
+        record, kind, 0, MAKELPARAM(static_cast<WORD>(event.x), static_cast<WORD>(event.y)));
+    message.pointer = {event.x_root - record.origin.x, event.y_root - record.origin.y};
+    return message;
+}
+
+// A server that cannot repeat a held key's press alone sends a release with each, at the same time.
+bool isRepeat(const XKeyEvent& release)
+{
+    if (XEventsQueued(release.display, QueuedAfterReading) == 0)
+        return false;
+    XEvent next;
+    XPeekEvent(release.display, &next);
+    return next.type == KeyPress && next.xkey.keycode == release.keycode &&
+           next.xkey.time == release.time;
+}
+
+bool onKey(WindowRecord& record, const XEvent& event, Message& result)
+{
+    const bool released = event.type == KeyRelease;
+    const int code = virtualKey(event.xkey);
+    if (code == 0 || (released && isRepeat(event.xkey)))
+        return false;
+    const bool system = code == altKey || (event.xkey.state & Mod1Mask) != 0;
+    const UINT pressKind = system ? WM_SYSKEYDOWN : WM_KEYDOWN;
+    const UINT releaseKind = system ? WM_SYSKEYUP : WM_KEYUP;
+    justPressed.set(event.xkey.keycode, !released);
+    result = plainMessage(record, released ? releaseKind : pressKind, static_cast<WPARAM>(code), 1);
+    return true;
+}
+
+// A key may go down and up within one frame. Its release waits until the program has looked at its
+// keys once, and what came after the release waits with it: no tap is too short to be seen.
+bool endsTap(const XEvent& event)
+{
+    return event.type == KeyRelease && justPressed.test(event.xkey.keycode);
+}
+
+struct ButtonMessages {
+    unsigned int button;
+    UINT pressed, released;
+};
+
+constexpr ButtonMessages buttonMessages[] = {
+    {Button1, WM_LBUTTONDOWN, WM_LBUTTONUP},
+    {Button2, WM_MBUTTONDOWN, WM_MBUTTONUP},
+    {Button3, WM_RBUTTONDOWN, WM_RBUTTONUP},
+};
+
+bool onButton(WindowRecord& record, const XEvent& event, Message& result)
+{
+    for (const ButtonMessages& messages : buttonMessages) {
+        if (messages.button != event.xbutton.button)
+            continue;
+        const UINT kind = event.type == ButtonPress ? messages.pressed : messages.released;
+        result = pointerMessage(record, kind, event.xbutton);
+        return true;
+    }
+    return false;
+}
+
+bool onMotion(WindowRecord& record, const XEvent& event, Message& result)
+{
+    result = pointerMessage(record, WM_MOUSEMOVE, event.xmotion);
+    return true;
+}
+
+// Also what the server sends when the window appears under a pointer at rest.
+bool onEnter(WindowRecord& record, const XEvent& event, Message& result)
+{
+    result = pointerMessage(record, WM_MOUSEMOVE, event.xcrossing);
+    return true;
+}
+
+WPARAM activation(const WindowRecord& record, WPARAM active)
+{
+    const bool minimised = record.iconic || record.hidden;
+    return minimised ? WA_INACTIVE | (WPARAM{1} << 16) : active;
+}
+
+bool onFocus(WindowRecord& record, const XEvent& event, Message& result)
+{
+    // A grab borrows the focus; and under the pointer it is another window's.
+    const XFocusChangeEvent& focus = event.xfocus;
+    if (focus.mode == NotifyGrab || focus.mode == NotifyUngrab || focus.detail == NotifyPointer)
+        return false;
+    const WPARAM active = event.type == FocusIn ? WA_ACTIVE : WA_INACTIVE;
+    result = plainMessage(record, WM_ACTIVATE, activation(record, active), 0);
+    return true;
+}
+
+bool onProperty(WindowRecord& record, const XEvent& event, Message& result)
+{
+    const bool wasMinimised = record.iconic || record.hidden;
+    if (event.xproperty.atom == atom(AtomName::wmState))
+        record.iconic = isIconic(event.xany.display, record.id);
+    else if (event.xproperty.atom == atom(AtomName::netWmState))
+        record.hidden = isHidden(event.xany.display, record.id);
+    if (wasMinimised == (record.iconic || record.hidden))
+        return false;
+    result = plainMessage(record, WM_ACTIVATE, activation(record, WA_ACTIVE), 0);
+    return true;
+}
+
+// Told by nextMessage once nothing else waits: of many sizes the last one is enough.
+bool onConfigure(WindowRecord& record, const XEvent& event, Message& /*result*/)
+{
+    updateClientSize(event.xany.display, record);
+    return false;
+}
+
+bool onClientMessage(WindowRecord& record, const XEvent& event, Message& result)
+{
+    const XClientMessageEvent& message = event.xclient;
+    if (message.message_type != atom(AtomName::wmProtocols) || message.format != 32)
+        return false;
+    const auto protocol = static_cast<Atom>(message.data.l[0]);
+    if (protocol == atom(AtomName::netWmPing))
+        answerPing(message);
+    if (protocol != atom(AtomName::wmDeleteWindow))
+        return false;
+    result = plainMessage(record, WM_CLOSE, 0, 0);
+    return true;
+}
+
+// Somebody else destroyed it: without a window there is nothing left to save.
+bool onDestroy(WindowRecord& record, const XEvent& /*event*/, Message& result)
+{
+    result = plainMessage(record, WM_CLOSE, 0, 0);
+    return true;
+}
+
+struct Translation {
+    int eventType;
+    bool (*translate)(WindowRecord&, const XEvent&, Message&); // false: nothing to tell
+};
+
+constexpr Translation translations[] = {
+    {KeyPress, onKey},
+    {KeyRelease, onKey},
+    {ButtonPress, onButton},
+    {ButtonRelease, onButton},
+    {MotionNotify, onMotion},
+    {EnterNotify, onEnter},
+    {FocusIn, onFocus},
+    {FocusOut, onFocus},
+    {PropertyNotify, onProperty},
+    {ConfigureNotify, onConfigure},
+    {ClientMessage, onClientMessage},
+    {DestroyNotify, onDestroy},
+};
+
+bool translate(XEvent& event, Message& result)
+{
+    if (event.type == MappingNotify)
+        XRefreshKeyboardMapping(&event.xmapping);
+    if (followHost(event))
+        return false;
+    WindowRecord* const record = findWindow(event.xany.window);
+    const auto translation =
+        std::find_if(std::begin(translations), std::end(translations),
+                     [&event](const Translation& entry) { return entry.eventType == event.type; });
+    return record != nullptr && translation != std::end(translations) &&
+           translation->translate(*record, event, result);
+}
+
+} // namespace
+
+} // namespace platform::x11
+
+bool platform::desktop::nextMessage(Message& result)
+{
+    using namespace platform::x11;
+    Display* const display = openConnection();
+    if (display == nullptr)
+        return false;
+    XEvent event;
+    while (XPending(display) > 0) {
+        XPeekEvent(display, &event);
+        if (endsTap(event))
+            break;
+        XNextEvent(display, &event);
+        if (translate(event, result))
+            return true;
+    }
+    WindowRecord* const resized = windowOfUnreportedSize();
+    if (resized == nullptr) {
+        justPressed.reset();
+        return false;
+    }
+    resized->reportedSize = resized->client;
+    result = plainMessage(*resized, WM_SIZE, SIZE_RESTORED,
+                          MAKELPARAM(static_cast<WORD>(resized->client.width),
+                                     static_cast<WORD>(resized->client.height)));
+    return true;
+}

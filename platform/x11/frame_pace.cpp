@@ -1,0 +1,79 @@
+#include "platform/x11/frame_pace.h"
+
+#include "platform/x11/desktop_area.h"
+
+#include <ctime>
+#include <memory>
+#include <span>
+
+namespace platform::x11 {
+
+namespace {
+
+constexpr Nanoseconds second = 1'000'000'000;
+constexpr Nanoseconds usualPeriod = second / 60;
+constexpr Nanoseconds shortestPeriod = second / 1000, longestPeriod = second / 20;
+
+using Resources = std::unique_ptr<XRRScreenResources, decltype(&XRRFreeScreenResources)>;
+using Controller = std::unique_ptr<XRRCrtcInfo, decltype(&XRRFreeCrtcInfo)>;
+
+// What the server knows of its monitors without looking for new ones, which would blank them.
+Resources monitorResources(Display* display)
+{
+    int event = 0, error = 0, major = 0, minor = 0;
+    const bool known = XRRQueryExtension(display, &event, &error) != 0 &&
+                       XRRQueryVersion(display, &major, &minor) != 0 && (major > 1 || minor >= 3);
+    return {known ? XRRGetScreenResourcesCurrent(display, DefaultRootWindow(display)) : nullptr,
+            &XRRFreeScreenResources};
+}
+
+// The mode of the monitor whose corner is the desktop's; 0 when none is.
+RRMode desktopMode(Display* display, XRRScreenResources& resources)
+{
+    const POINT corner = desktopArea(display).corner;
+    for (const RRCrtc id : std::span(resources.crtcs, static_cast<std::size_t>(resources.ncrtc))) {
+        const Controller crtc(XRRGetCrtcInfo(display, &resources, id), &XRRFreeCrtcInfo);
+        if (crtc && crtc->mode != 0 && crtc->x == corner.x && crtc->y == corner.y)
+            return crtc->mode;
+    }
+    return 0;
+}
+
+} // namespace
+
+Nanoseconds framePeriod(const XRRModeInfo& mode)
+{
+    auto dots = static_cast<Nanoseconds>(mode.hTotal) * mode.vTotal;
+    if ((mode.modeFlags & RR_DoubleScan) != 0)
+        dots *= 2;
+    if ((mode.modeFlags & RR_Interlace) != 0)
+        dots /= 2; // each half picture is one of its own
+    if (mode.dotClock == 0)
+        return usualPeriod;
+    const Nanoseconds period = dots * second / static_cast<Nanoseconds>(mode.dotClock);
+    return period < shortestPeriod || period > longestPeriod ? usualPeriod : period;
+}
+
+Nanoseconds framePeriod(Display* display)
+{
+    const Resources resources = monitorResources(display);
+    if (!resources)
+        return usualPeriod;
+    const RRMode current = desktopMode(display, *resources);
+    for (const XRRModeInfo& mode :
+         std::span(resources->modes, static_cast<std::size_t>(resources->nmode)))
+        if (mode.id == current)
+            return framePeriod(mode);
+    return usualPeriod;
+}
+
+void FramePace::awaitNextFrame()
+{
+    timespec time{};
+    clock_gettime(CLOCK_MONOTONIC, &time);
+    due = nextDueTime(due, time.tv_sec * second + time.tv_nsec, period);
+    time = {due / second, due % second};
+    clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &time, nullptr);
+}
+
+} // namespace platform::x11

@@ -1,0 +1,95 @@
+#include "platform/x11/host_window.h"
+
+#include "platform/desktop.h"
+#include "platform/x11/display.h"
+#include "platform/x11/window.h"
+
+#include <charconv>
+#include <cstdio>
+#include <cstdlib>
+#include <optional>
+#include <string_view>
+#include <system_error>
+#include <unistd.h>
+
+namespace platform::x11 {
+
+namespace {
+
+constinit std::optional<::Window> named;
+constinit bool adopted = false;
+
+// The number that the whole of `text` is, in decimal or with 0x in hexadecimal. A number that no
+// window can have counts as 0, which no window has.
+std::optional<::Window> windowNumber(std::string_view text)
+{
+    const bool hexadecimal = text.starts_with("0x") || text.starts_with("0X");
+    if (hexadecimal)
+        text.remove_prefix(2);
+    ::Window number = 0;
+    const char* const end = text.data() + text.size();
+    const auto [stop, failure] = std::from_chars(text.data(), end, number, hexadecimal ? 16 : 10);
+    if (stop != end || failure == std::errc::invalid_argument)
+        return std::nullopt;
+    return number;
+}
+
+} // namespace
+
+bool hosted()
+{
+    return named.has_value();
+}
+
+::Window hostWindow()
+{
+    return named.value_or(0);
+}
+
+void adoptHost(Display* display)
+{
+    if (!hosted())
+        return;
+    XErrorTrap trap(display);
+    // Its size and its end. Only these: of most input there can be one listener, and it is the
+    // host.
+    XSelectInput(display, hostWindow(), StructureNotifyMask);
+    if (trap.firstError() != 0) {
+        std::fprintf(stderr, "quazo: 0x%lx, given by the host, is no window\n", hostWindow());
+        std::exit(1);
+    }
+    adopted = true;
+}
+
+bool meansHostIsGone(const XErrorEvent& error)
+{
+    const bool noSuchWindow = error.error_code == BadWindow || error.error_code == BadDrawable;
+    return adopted && noSuchWindow &&
+           (error.resourceid == hostWindow() || findWindow(error.resourceid) != nullptr);
+}
+
+bool followHost(const XEvent& event)
+{
+    if (!adopted || event.xany.window != hostWindow())
+        return false;
+    if (event.type == DestroyNotify)
+        _exit(0);
+    if (event.type == ConfigureNotify)
+        fillHost(event.xany.display, {event.xconfigure.width, event.xconfigure.height});
+    return true;
+}
+
+} // namespace platform::x11
+
+void platform::desktop::chooseHost(int argumentCount, const char* const* arguments)
+{
+    using namespace platform::x11;
+    named.reset();
+    adopted = false;
+    for (int i = 1; i + 1 < argumentCount && !named; ++i)
+        if (std::string_view(arguments[i]) == "--window-id")
+            named = windowNumber(arguments[i + 1]);
+    const char* const fromEnvironment = std::getenv("XSCREENSAVER_WINDOW");
+    if (!named && fromEnvironment != nullptr)
+        named = windowNumber(fromEnvironment);
+}

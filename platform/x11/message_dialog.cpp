@@ -1,0 +1,205 @@
+#include "platform/desktop.h"
+#include "platform/x11/display.h"
+#include "platform/x11/host_window.h"
+#include "platform/x11/window_manager.h"
+
+#include <FL/Fl.H>
+#include <FL/Fl_Box.H>
+#include <FL/fl_draw.H>
+#include <FL/Fl_Return_Button.H>
+#include <FL/Fl_Window.H>
+#include <FL/x.H>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <string>
+#include <utility>
+
+namespace platform::x11 {
+
+namespace {
+
+struct Icon {
+    UINT style;
+    const char* sign;
+    uchar red, green, blue;
+};
+
+constexpr UINT iconBits = 0xF0;
+constexpr std::array<Icon, 2> icons = {{
+    {MB_ICONEXCLAMATION, "!", 201, 122, 12},
+    {MB_ICONINFORMATION, "i", 41, 98, 181},
+}};
+
+// In front of a window that is always on top, as the saver's is, and with the keyboard.
+class TopmostWindow : public Fl_Window {
+public:
+    using Fl_Window::Fl_Window;
+
+private:
+    int handle(int event) override
+    {
+        // The window has been made and does not appear yet: now a manager will read its wishes.
+        if (event == FL_SHOW) {
+            const Atom above = atom(AtomName::netWmStateAbove);
+            XChangeProperty(fl_display, fl_xid(this), atom(AtomName::netWmState), XA_ATOM, 32,
+                            PropModeReplace, reinterpret_cast<const uchar*>(&above), 1);
+        }
+        return Fl_Window::handle(event);
+    }
+
+    void draw() override
+    {
+        Fl_Window::draw();
+        // Only a window that can be seen may have the keyboard.
+        if (std::exchange(seen, true))
+            return;
+        if (managerRuns(fl_display))
+            requestActivation(fl_display, fl_xid(this));
+        else
+            XSetInputFocus(fl_display, fl_xid(this), RevertToPointerRoot, CurrentTime);
+    }
+
+    bool seen = false;
+};
+
+// A text as it stands; a label would take an '@' for the name of a symbol.
+class PlainText : public Fl_Widget {
+public:
+    PlainText(int x, int y, int width, int height, const char* text)
+        : Fl_Widget(x, y, width, height, text)
+    {
+    }
+
+private:
+    void draw() override
+    {
+        fl_color(labelcolor());
+        fl_font(labelfont(), labelsize());
+        fl_draw(label(), x(), y(), w(), h(), FL_ALIGN_LEFT | FL_ALIGN_WRAP, nullptr, 0);
+    }
+};
+
+// Places in the box, in pixels. All but the text's are multiples of the letters' height.
+struct Layout {
+    int letter = 0;
+    int textWidth = 0, textHeight = 0, bodyHeight = 0;
+    int x = 0, y = 0, width = 0, height = 0;
+};
+
+Layout layoutOf(const char* text)
+{
+    constexpr int smallestLetter = 14, linesOnMonitor = 64;
+    constexpr int firstMonitor = 0; // FLTK counts the primary one first
+    int left = 0, top = 0, width = 0, height = 0;
+    Fl::screen_xywh(left, top, width, height, firstMonitor);
+    Layout made;
+    made.letter = std::max(smallestLetter, height / linesOnMonitor);
+    fl_font(FL_HELVETICA, made.letter);
+    made.textWidth = width / 2;
+    fl_measure(text, made.textWidth, made.textHeight, 0);
+    made.bodyHeight = std::max(made.textHeight, 3 * made.letter);
+    made.width = made.textWidth + 7 * made.letter;
+    made.height = made.bodyHeight + 6 * made.letter;
+    made.x = left + (width - made.width) / 2;
+    made.y = top + (height - made.height) / 2;
+    return made;
+}
+
+// The widgets of a box; the texts must outlive it.
+class MessageDialog {
+public:
+    MessageDialog(const Layout& layout, const char* text, const char* caption, UINT type)
+        : window(layout.x, layout.y, layout.width, layout.height, caption),
+          sign(layout.letter, layout.letter, 3 * layout.letter, 3 * layout.letter),
+          message(5 * layout.letter, layout.letter + (layout.bodyHeight - layout.textHeight) / 2,
+                  layout.textWidth + layout.letter, layout.textHeight, text),
+          button((layout.width - 7 * layout.letter) / 2, layout.bodyHeight + 3 * layout.letter,
+                 7 * layout.letter, 2 * layout.letter, "OK")
+    {
+        window.end();
+        window.xclass("Quazo");
+        window.box(FL_BORDER_BOX); // nobody else draws one where no manager runs
+        window.color(FL_WHITE);
+        message.labelsize(layout.letter);
+        button.box(FL_GTK_UP_BOX);
+        button.down_box(FL_GTK_DOWN_BOX);
+        button.labelsize(layout.letter);
+        button.callback([](Fl_Widget* pressed) { pressed->window()->hide(); });
+        showIcon(type & iconBits, 2 * layout.letter);
+    }
+
+    // Returns when the box is closed, by whatever.
+    void run(int endDescriptor)
+    {
+        const auto close = [](int, void* shown) { static_cast<Fl_Window*>(shown)->hide(); };
+        if (endDescriptor >= 0)
+            Fl::add_fd(endDescriptor, FL_READ, close, &window);
+        window.show();
+        window.cursor(FL_CURSOR_ARROW);
+        button.take_focus();
+        while (window.shown() != 0)
+            Fl::wait();
+        if (endDescriptor >= 0)
+            Fl::remove_fd(endDescriptor);
+    }
+
+private:
+    void showIcon(UINT style, int letter)
+    {
+        const auto icon = std::find_if(icons.begin(), icons.end(),
+                                       [=](const Icon& known) { return known.style == style; });
+        if (icon == icons.end())
+            return;
+        sign.box(FL_FLAT_BOX);
+        sign.color(fl_rgb_color(icon->red, icon->green, icon->blue));
+        sign.label(icon->sign);
+        sign.labelfont(FL_HELVETICA_BOLD);
+        sign.labelcolor(FL_WHITE);
+        sign.labelsize(letter);
+    }
+
+    TopmostWindow window;
+    Fl_Box sign;
+    PlainText message;
+    Fl_Return_Button button;
+};
+
+// Gives FLTK a connection of its own, so that it does not eat our windows' events. It is kept for
+// the next box: FLTK's fonts and colours are the connection's, and FLTK never makes them anew.
+bool openToolkit()
+{
+    if (fl_display != nullptr)
+        return true;
+    Display* const display = XOpenDisplay(nullptr);
+    if (display == nullptr)
+        return false;
+    fl_open_display(display);
+    installErrorHandlers();
+    return true;
+}
+
+void printLine(std::string text)
+{
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    std::fprintf(stderr, "%s\n", text.c_str());
+}
+
+} // namespace
+
+} // namespace platform::x11
+
+void platform::desktop::messageBox(const char* text, const char* caption, UINT type,
+                                   int endDescriptor)
+{
+    using namespace platform::x11;
+    if (hosted())
+        return printLine(text);
+    if (connection() == nullptr || !openToolkit()) {
+        std::fprintf(stderr, "%s\n", text);
+        return;
+    }
+    MessageDialog(layoutOf(text), text, caption, type).run(endDescriptor);
+    XFlush(fl_display);
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/desktop.h"
+#include "platform/x11/glx_config.h"
+
+#include <X11/Xlib.h>
+
+namespace platform::x11 {
+
+/// What we know of a window of ours. A free place has `id` 0.
+struct WindowRecord {
+    ::Window id = 0;       ///< The NativeWindow that the port hands out, and the GLX drawable.
+    WindowFormat format{}; ///< A null config: made without GLX, on the default visual.
+    Colormap colormap = 0;
+    POINT origin{};             ///< The desktop's corner on the root window, when last placed.
+    desktop::Size client;       ///< As the server last said.
+    desktop::Size reportedSize; ///< What the program believes; WM_SIZE follows where it differs.
+    bool shown = false;
+    bool iconic = false, hidden = false; ///< Either one is minimised.
+};
+
+/// The record of a window that the port made and has not destroyed; null for any other. It stays
+/// where it is until then.
+[[nodiscard]] WindowRecord* findWindow(desktop::NativeWindow window);
+
+/// A window whose program does not know its size yet; null when there is none.
+[[nodiscard]] WindowRecord* windowOfUnreportedSize();
+
+/// Learns the client size that the server has for the window now, which a ConfigureNotify from
+/// before the last request would not say.
+void updateClientSize(Display* display, WindowRecord& record);
+
+/// Gives our windows the size of the host's window that they are in.
+void fillHost(Display* display, desktop::Size size);
+
+} // namespace platform::x11
