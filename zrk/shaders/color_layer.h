@@ -1,0 +1,42 @@
+#pragma once
+
+#include "zrk/gl.h"
+#include "zrk/shaders/shader_layer.h"
+#include "zrk/shaders/shader_result.h"
+
+#include <memory>
+#include <span>
+
+namespace zrk {
+
+class LineTokens;
+class Shader;
+
+/// A current colour, which tints what is drawn. `Shader::apply` makes it white again for the next
+/// shader without one.
+class ColorLayer : public ShaderLayer {
+public:
+    /// Red, green, blue and alpha.
+    std::unique_ptr<GLfloat[]> rgba;
+
+    ColorLayer();
+    ColorLayer(const ColorLayer& other);
+
+    void apply() override;
+    void reapply() override;
+    void readBack() override;
+    void toText(String& out) const override;
+    void write(std::FILE* out) const override;
+    void resolve(const TexturePool& pool) override;
+    LayerKind kind() const override { return LayerKind::color; }
+
+    /// Takes `other`'s values into its own array.
+    virtual void assign(const ColorLayer& other);
+
+    std::span<GLfloat, 4> values() const { return std::span<GLfloat, 4>(rgba.get(), 4); }
+};
+
+/// Adds the layer that the rest of `line` describes; a bad line adds nothing.
+[[nodiscard]] ShaderResult parseColorLayer(Shader& shader, LineTokens& line);
+
+} // namespace zrk

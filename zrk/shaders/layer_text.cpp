@@ -1,0 +1,60 @@
+#include "zrk/shaders/layer_text.h"
+
+#include "zrk/owned_string.h"
+
+#include <cstdio>
+
+namespace zrk {
+
+LayerText::LayerText(String& text, Keyword layer, int decimalCount)
+    : out(text),
+      decimals(decimalCount)
+{
+    out = wordOf(layer);
+    out += ": ";
+}
+
+LayerText& LayerText::integer(std::int32_t value)
+{
+    char digits[16];
+    std::snprintf(digits, sizeof digits, "%d", value);
+    out += digits;
+    return separator();
+}
+
+LayerText& LayerText::word(std::span<const WordValue> accepted, GLenum value)
+{
+    if (wordFor(accepted, value) == nullptr)
+        return *this;
+    return lastWord(accepted, value).separator();
+}
+
+LayerText& LayerText::numbers(std::span<const GLfloat, 4> values)
+{
+    return lastNumbers(values).separator();
+}
+
+LayerText& LayerText::lastWord(std::span<const WordValue> accepted, GLenum value)
+{
+    if (const char* text = wordFor(accepted, value))
+        out += text;
+    return *this;
+}
+
+LayerText& LayerText::lastNumbers(std::span<const GLfloat, 4> values)
+{
+    char text[256]; // a float has 39 digits before the point at most
+    std::snprintf(text, sizeof text, "<%.*f, %.*f, %.*f, %.*f>", decimals, double{values[0]},
+                  decimals, double{values[1]}, decimals, double{values[2]}, decimals,
+                  double{values[3]});
+    out += text;
+    return *this;
+}
+
+LayerText& LayerText::separator()
+{
+    out += ", ";
+    return *this;
+}
+
+} // namespace zrk

@@ -1,0 +1,65 @@
+#include "zrk/shaders/shader.h"
+
+#include "zrk/allocation.h"
+#include "zrk/gl.h"
+#include "zrk/shaders/layer_registry.h"
+#include "zrk/shaders/line_tokens.h"
+#include "zrk/shaders/shader_layer.h"
+#include "zrk/shaders/texture_units.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace zrk {
+
+Shader::Shader()
+{
+    makeLineBuffer();
+}
+
+Shader& Shader::operator=(const Shader& other)
+{
+    if (this == &other)
+        return *this;
+    name = other.name;
+    layerPointers = newArray<ShaderLayer*>(other.layerCount);
+    std::ranges::copy(other.layers(), layerPointers.get());
+    layerCount = other.layerCount;
+    hasBlend = other.hasBlend;
+    hasTexture = other.hasTexture;
+    hasColor = other.hasColor;
+    return *this;
+}
+
+LayerKind Shader::addLayer(std::unique_ptr<ShaderLayer> layer)
+{
+    ShaderLayer& added = *layer;
+    std::unique_ptr<ShaderLayer*[]> longer = newArray<ShaderLayer*>(layerCount + 1);
+    std::ranges::copy(layers(), longer.get());
+    longer[layerCount] = &added;
+    layerRegistry.add(std::move(layer));
+    layerPointers = std::move(longer);
+    ++layerCount;
+
+    const LayerKind kind = added.kind();
+    hasBlend |= kind == LayerKind::blend;
+    hasTexture |= kind == LayerKind::texture;
+    hasColor |= kind == LayerKind::color;
+    return kind;
+}
+
+void Shader::apply() const
+{
+    if (hasBlend)
+        glEnable(GL_BLEND);
+    else
+        glDisable(GL_BLEND);
+    if (!hasColor)
+        restoreColor();
+    if (!hasTexture)
+        setTextureUnits(0);
+    for (ShaderLayer* layer : layers())
+        layer->apply();
+}
+
+} // namespace zrk

@@ -1,0 +1,103 @@
+#include "zrk/shaders/texture_units.h"
+
+#include "zrk/renderer.h"
+
+#include <cstdio>
+
+namespace zrk {
+
+constinit GlCaches glCaches;
+
+namespace {
+
+constexpr std::uint32_t firstUnit = 1; // bit masks
+constexpr std::uint32_t secondUnit = 2;
+
+void switchTexturing(bool on)
+{
+    if (on)
+        glEnable(GL_TEXTURE_2D);
+    else
+        glDisable(GL_TEXTURE_2D);
+}
+
+void switchUnits(std::uint32_t mask, std::uint32_t changed)
+{
+    const bool second = (mask & secondUnit) != 0;
+    if ((changed & secondUnit) != 0) {
+        selectUnit(1);
+        switchTexturing(second);
+        if (!second)
+            selectUnit(0);
+    }
+    if ((changed & firstUnit) != 0) {
+        selectUnit(0);
+        switchTexturing((mask & firstUnit) != 0);
+    }
+}
+
+} // namespace
+
+void setTextureUnits(std::uint32_t mask)
+{
+    const std::uint32_t before = glCaches.enabledUnits;
+    if (renderer.multitextureAvailable)
+        switchUnits(mask, mask ^ before);
+    else if ((mask != 0) != (before != 0))
+        switchTexturing(mask != 0);
+    glCaches.enabledUnits = mask;
+}
+
+void selectUnit(std::uint32_t unit)
+{
+    if (renderer.multitextureAvailable)
+        renderer.glActiveTextureARB(GL_TEXTURE0_ARB + unit);
+}
+
+void returnToFirstUnit()
+{
+    if (glCaches.unitSwitched)
+        selectUnit(0);
+    glCaches.unitSwitched = false;
+}
+
+void noteUnitsSwitched()
+{
+    glCaches.unitSwitched = true;
+}
+
+std::uint32_t shownStages(std::uint32_t stageCount)
+{
+    if (stageCount <= renderer.textureUnits)
+        return stageCount;
+    if (!glCaches.shortageStated)
+        std::fputs("quazo: no multitexture: of several textures only the first is shown\n", stderr);
+    glCaches.shortageStated = true;
+    return 1;
+}
+
+bool isBound(std::uint32_t unit, GLuint glName)
+{
+    return glCaches.boundTexture[unit] == static_cast<std::int32_t>(glName);
+}
+
+void noteBound(std::uint32_t unit, GLuint glName)
+{
+    glCaches.boundTexture[unit] = static_cast<std::int32_t>(glName);
+}
+
+void setColor(std::span<const GLfloat, 4> rgba)
+{
+    glColor4fv(rgba.data());
+    glCaches.colorChanged = true;
+}
+
+void restoreColor()
+{
+    constexpr GLfloat white[] = {1.0f, 1.0f, 1.0f, 1.0f};
+    if (glCaches.colorChanged)
+        glColor4fv(white);
+    glCaches.colorChanged = false;
+}
+
+} // namespace zrk

@@ -1,0 +1,62 @@
+#include "zrk/text_file.h"
+
+#include <cassert>
+#include <cerrno>
+
+namespace zrk {
+
+namespace {
+
+// Some systems open a directory like a file and refuse only to read it.
+bool isDirectory(std::FILE* file)
+{
+    errno = 0;
+    const int first = std::getc(file);
+    if (first == EOF)
+        return errno == EISDIR;
+    std::ungetc(first, file);
+    return false;
+}
+
+} // namespace
+
+std::FILE* openTextFile(const char* fileName)
+{
+    std::FILE* const file = fileName != nullptr ? std::fopen(fileName, "r") : nullptr;
+    if (file == nullptr || !isDirectory(file))
+        return file;
+    std::fclose(file);
+    return nullptr;
+}
+
+int readCharacter(std::FILE* file)
+{
+    const int character = std::getc(file);
+    if (character != '\r')
+        return character;
+    const int next = std::getc(file);
+    if (next == '\n')
+        return next;
+    std::ungetc(next, file); // does nothing with EOF
+    return character;
+}
+
+bool readLine(std::FILE* file, std::span<char> line)
+{
+    assert(line.size() > 1);
+    std::size_t length = 0;
+    int character = 0;
+    while (length + 1 < line.size() && character != '\n') {
+        character = readCharacter(file);
+        if (character == EOF) {
+            if (std::ferror(file) != 0)
+                length = 0;
+            break;
+        }
+        line[length++] = static_cast<char>(character);
+    }
+    line[length] = '\0';
+    return length > 0;
+}
+
+} // namespace zrk

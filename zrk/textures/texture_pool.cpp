@@ -1,0 +1,203 @@
+#include "zrk/textures/texture_pool.h"
+
+#include "zrk/allocation.h"
+#include "zrk/text_file.h"
+#include "zrk/textures/rgba32_format.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <iterator>
+#include <limits>
+#include <ostream>
+#include <string_view>
+#include <utility>
+
+namespace zrk {
+
+namespace {
+
+enum PoolCode : std::int32_t {
+    loaded = 0,
+    cannotOpenFile = 1,
+    cannotCloseFile = 2,
+    readError = 3, ///< 4, a write error, has a text but never happens.
+    unknownOption = 5,
+    cannotConvert = 6,
+    noFirstLine = -1,
+    noTextures = -2, ///< The count is 0, negative, or no number.
+    tooFewLines = -4,
+    cannotLoadImage = -100, ///< The image's own result a hundredfold.
+};
+
+// By code; the name follows, and an apostrophe.
+constexpr std::array messages = {
+    "Successfully loaded `",   "Error opening file `",    "Error closing file `",
+    "Error reading in file `", "Error writing in file `", "Unknown texture parameter `",
+};
+
+struct Option {
+    std::string_view word;
+    bool Texture::*flag;
+};
+
+constexpr Option options[] = {
+    {"mipmap", &Texture::mipmap},
+    {"mask", &Texture::mask},
+    {"grey", &Texture::grey},
+    {"gray", &Texture::grey},
+};
+
+/// The pool file, a line and in it a token at a time.
+class PoolReader {
+public:
+    explicit PoolReader(std::FILE* poolFile) : file(poolFile) {}
+
+    bool nextLine()
+    {
+        rest = line.data();
+        return readLine(file, line);
+    }
+
+    /// Null at the end of the line.
+    const char* nextToken()
+    {
+        constexpr const char* separators = ", \n";
+        token = rest + std::strspn(rest, separators);
+        rest = token + std::strcspn(token, separators);
+        if (token == rest)
+            return nullptr;
+        if (*rest != '\0')
+            *rest++ = '\0';
+        return token;
+    }
+
+    /// The last one that `nextToken` found, until the next line is read.
+    const char* currentToken() const { return token; }
+
+    /// The number at the start of the line, brought into the range of a count.
+    std::uint32_t lineCount() const
+    {
+        constexpr long long most = std::numeric_limits<std::uint32_t>::max();
+        return static_cast<std::uint32_t>(
+            std::clamp(std::strtoll(line.data(), nullptr, 10), 0LL, most));
+    }
+
+    /// No more lines than this can follow; a pipe, whose length nobody knows, promises them all.
+    std::uint32_t mostLinesLeft() const
+    {
+        constexpr long most = std::numeric_limits<std::int32_t>::max();
+        const long position = std::ftell(file);
+        if (position < 0 || std::fseek(file, 0, SEEK_END) != 0)
+            return std::numeric_limits<std::uint32_t>::max();
+        const long bytes = std::ftell(file) - position;
+        std::fseek(file, position, SEEK_SET);
+        return static_cast<std::uint32_t>(std::clamp(bytes, 0L, most));
+    }
+
+    bool failed() const { return std::ferror(file) != 0; }
+
+private:
+    std::FILE* file;
+    std::array<char, 1024> line{}; // the line feed and the terminator included
+    char* token = line.data();
+    char* rest = line.data();
+};
+
+bool readOptions(PoolReader& reader, Texture& texture)
+{
+    while (const char* token = reader.nextToken()) {
+        const auto* option = std::ranges::find(options, std::string_view(token), &Option::word);
+        if (option == std::end(options))
+            return false;
+        texture.*option->flag = true;
+    }
+    return true;
+}
+
+std::int32_t readTexture(PoolReader& reader, Texture& texture, std::ostream* log)
+{
+    if (texture.load(reader.nextToken(), log) != 0)
+        return cannotLoadImage;
+    if (!readOptions(reader, texture))
+        return unknownOption;
+    if (texture.surface->format->BytesPerPixel == 1 && !texture.grey) {
+        OwnedSurface converted = toRgba32(*texture.surface);
+        if (!converted)
+            return cannotConvert;
+        texture.surface = std::move(converted);
+    }
+    return loaded;
+}
+
+std::int32_t readTextures(PoolReader& reader, TexturePool& pool, std::ostream* log)
+{
+    if (!reader.nextLine())
+        return noFirstLine;
+    const std::uint32_t announced = reader.lineCount();
+    if (announced == 0)
+        return noTextures;
+    // The lines decide whether the file keeps its promise; memory is taken for what it can keep.
+    pool.resize(std::min(announced, reader.mostLinesLeft()));
+    for (std::uint32_t i = 0; i < pool.count; ++i) {
+        if (!reader.nextLine())
+            return reader.failed() ? readError : tooFewLines;
+        if (const std::int32_t result = readTexture(reader, pool.textures[i], log);
+            result != loaded)
+            return result;
+    }
+    return pool.count == announced ? loaded : tooFewLines;
+}
+
+} // namespace
+
+std::int32_t TexturePool::load(const char* name, std::ostream* log)
+{
+    std::FILE* const file = openTextFile(name);
+    if (file == nullptr) {
+        report(cannotOpenFile, name, log);
+        return cannotOpenFile;
+    }
+    PoolReader reader(file);
+    std::int32_t result = readTextures(reader, *this, log);
+    const bool closed = std::fclose(file) == 0;
+    if (!closed && result != unknownOption && result != cannotConvert)
+        result = cannotCloseFile;
+    if (result == loaded)
+        fileName = name;
+    if (result != cannotLoadImage && result != cannotConvert) // the image loader has had its say
+        report(result, result == unknownOption ? reader.currentToken() : name, log);
+    return result;
+}
+
+void TexturePool::uploadAll()
+{
+    for (std::uint32_t i = 0; i < count; ++i)
+        textures[i].upload();
+}
+
+void TexturePool::resize(std::uint32_t newCount)
+{
+    count = 0;
+    textures.reset();
+    if (newCount != 0)
+        textures = newArray<Texture>(newCount);
+    count = newCount;
+}
+
+void TexturePool::report(std::int32_t code, const char* name, std::ostream* log)
+{
+    if (log == nullptr)
+        return;
+    if (code < 0)
+        *log << "Undefined warning";
+    else if (static_cast<std::size_t>(code) < messages.size())
+        *log << messages[static_cast<std::size_t>(code)] << (name != nullptr ? name : "") << '\'';
+    else
+        *log << "Undefined error";
+    *log << '\n' << std::flush;
+}
+
+} // namespace zrk
