@@ -1,0 +1,15 @@
+#include "surface/leaf_drawing.h"
+
+#include "surface/marching_cubes_tables.h"
+#include "zrk/gl.h"
+
+void drawLeaf(const EdgeVertices& vertices, std::uint8_t caseIndex)
+{
+    glBegin(GL_TRIANGLES);
+    for (const std::int32_t* edge = triTable[caseIndex].data(); *edge >= 0; ++edge) {
+        const auto& [position, s, t] = vertices[static_cast<std::size_t>(*edge)];
+        glTexCoord2f(s, t);
+        glVertex3f(position.x, position.y, position.z);
+    }
+    glEnd();
+}

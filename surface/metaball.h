@@ -1,0 +1,23 @@
+#pragma once
+
+#include "surface/sphere.h"
+#include "surface/vec3.h"
+
+/// One source of the field: 1 at its centre, falling smoothly to 0 at its radius.
+struct Metaball {
+    float radius = 100.0f;                    ///< Of influence, in world units.
+    float falloff = 0.5f / (100.0f * 100.0f); ///< 0.5 / radius², so that the field divides nothing.
+    Vec3 centre;
+    Sphere bounds{100.0f, {}}; ///< What cells are tested against; see `syncBounds`.
+
+    void set(const Vec3& newCentre, float newRadius);
+
+    /// This ball's share of the field at a point in world space: (1 - d²/R²)² within the radius.
+    float fieldAt(const Vec3& p) const { return fieldAt(p.x, p.y, p.z); }
+    float fieldAt(float x, float y, float z) const;
+
+    /// Makes `bounds` follow a centre and radius that were written directly.
+    void syncBounds();
+};
+
+static_assert(sizeof(Metaball) == 36);

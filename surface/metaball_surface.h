@@ -1,0 +1,80 @@
+#pragma once
+
+#include "surface/bounding_box.h"
+#include "surface/cell.h"
+#include "surface/drawable.h"
+#include "surface/metaball.h"
+#include "surface/octree.h"
+
+#include <cstdint>
+#include <memory>
+#include <span>
+
+namespace zrk {
+class Shader;
+}
+
+/// The surface on which the field of the metaballs equals a threshold, made anew every frame and
+/// sent to OpenGL as it is made. Inside is where the field is not below the threshold.
+class MetaballSurface : public Drawable {
+public:
+    std::uint32_t nodePoolSize = 50000; ///< A tree of depth 5 has at most 37,449 nodes.
+    Octree octree;
+    const zrk::Shader* shader = nullptr; ///< What the next frame is drawn with; borrowed.
+    std::unique_ptr<Metaball[]> balls;
+    BoundingBox region{Vec3(-300.0f), Vec3(300.0f)}; ///< The root cell, in world space.
+    std::uint32_t depthSetting = 4;                  ///< How often the region is halved.
+    float threshold = 0.5f;
+    std::uint32_t ballCount = 0;
+
+    /// Has 25 balls.
+    MetaballSurface();
+
+    /// Puts `count` balls of radius 400 at the origin in the place of those there were. No memory
+    /// is `Cexception`.
+    void setBallCount(std::uint32_t count);
+
+    /// The field of all balls at a point in world space.
+    float fieldAt(const Vec3& p) const;
+
+    /// The texture coordinate of a point on the surface where the field is `valueAtP`; z is not
+    /// drawn.
+    Vec3 surfaceTexCoord(const Vec3& p, float valueAtP) const;
+
+    /// Lets the spheres that cells are tested against follow their balls.
+    void syncBounds();
+
+    /// Draws the part of the surface that the `viewFrustum` may see. The `shader` must be set, a
+    /// context be current and hold the matrices that the frustum was made of. A region out of view
+    /// makes no call of OpenGL.
+    void polygonizeAndDraw();
+
+    bool query(std::int32_t argument) override;
+
+    /// The same as `polygonizeAndDraw`.
+    void draw() override;
+    std::int32_t kind() override;
+
+    /// Does nothing: nothing is kept from frame to frame.
+    void rebuild() override;
+
+private:
+    std::span<const Metaball> allBalls() const { return {balls.get(), ballCount}; }
+
+    /// Visits the cell of `node`, `depth` halvings below the region: a leaf is drawn, any other
+    /// cell visits its octants. `values` lie at the cell's corners and `caseIndex` is theirs;
+    /// `visibility` is what the frustum test said of the cell.
+    void subdivide(OctreeNode& node, const CornerValues& values, std::uint32_t depth,
+                   std::uint8_t caseIndex, std::uint8_t visibility);
+
+    /// Draws the triangles of a leaf cell, if it has any.
+    void polygonizeLeaf(const CornerSamples& samples, std::uint8_t caseIndex) const;
+
+    /// Where the surface crosses the edge from `pa` to `pb`, and the field there. One of the
+    /// ends, with the field values `va` and `vb`, must be inside and the other outside.
+    void interpolateEdge(const Vec3& pa, const Vec3& pb, float va, float vb, Vec3& outVertex,
+                         float& outValue) const;
+};
+
+/// The one surface of the program.
+extern MetaballSurface metaballSurface;

@@ -1,0 +1,24 @@
+#include "surface/octree.h"
+
+#include "zrk/allocation.h"
+
+#include <cassert>
+
+constinit NodePool nodePool;
+
+void NodePool::resize(std::uint32_t newCapacity)
+{
+    next = 0;
+    capacity = 0;
+    nodes.reset();
+    nodes = zrk::newArray<OctreeNode>(newCapacity);
+    capacity = newCapacity;
+}
+
+OctreeNode* NodePool::take()
+{
+    assert(capacity > 0);
+    if (next == capacity)
+        next = 0;
+    return &nodes[next++];
+}
