@@ -1,0 +1,35 @@
+#pragma once
+
+#include "tools/caustics/waves.h"
+
+#include <span>
+#include <vector>
+
+namespace caustics {
+
+/// The water over one row of points: height in metres and slope along x and y.
+struct SurfaceRow {
+    std::vector<float> height;
+    std::vector<float> slopeX;
+    std::vector<float> slopeY;
+};
+
+/// The moving surface on a square grid of points, spread evenly over the tile. Reading is safe
+/// from several threads.
+class WaterSurface {
+public:
+    WaterSurface(std::span<const Wave> waves, int pointsPerSide);
+
+    int pointsPerSide() const { return points; }
+
+    /// Fills `out` for row `row` of the grid at frame `frame`.
+    void readRow(int frame, int row, SurfaceRow& out) const;
+
+private:
+    std::vector<Wave> waves; // turned so that none runs towards −x
+    int points;
+    std::vector<float> cosines; // [wave number along x][column]
+    std::vector<float> sines;
+};
+
+} // namespace caustics
