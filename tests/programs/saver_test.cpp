@@ -1,0 +1,133 @@
+#include <gtest/gtest.h> // before Xlib, which makes a macro of a name of its
+
+#include "tests/programs/program.h"
+#include "tests/support/user.h"
+#include "tests/support/virtual_display.h"
+
+#include <X11/keysym.h>
+
+#include <algorithm>
+#include <csignal>
+#include <functional>
+#include <optional>
+
+namespace {
+
+// A fresh screen for each test: nothing of an earlier run can stand on it.
+class Saver : public testing::Test {
+protected:
+    VirtualDisplay display{"1024x768x24"};
+    User user;
+
+    Window running(ChildProcess& saver) const
+    {
+        const Window window = user.waitForWindow(saverTitle);
+        EXPECT_TRUE(saver.isRunning()) << saver.standardError();
+        return window;
+    }
+
+    bool isLit(int brightness) const
+    {
+        const User::Picture picture = user.look();
+        return std::any_of(picture.rgb.begin(), picture.rgb.end(),
+                           [=](int value) { return value >= brightness; });
+    }
+};
+
+struct Ending {
+    const char* name;
+    std::function<void(const User&, const ChildProcess&, Window)> act;
+};
+
+const Ending endings[] = {
+    {"Escape", [](const User& user, auto&, Window) { user.press(XK_Escape); }},
+    {"left button", [](const User& user, auto&, Window) { user.click(1); }},
+    {"middle button", [](const User& user, auto&, Window) { user.click(2); }},
+    {"right button", [](const User& user, auto&, Window) { user.click(3); }},
+    {"close", [](const User& user, auto&, Window window) { user.askToClose(window); }},
+    {"101 pixels in one move", [](const User& user, auto&, Window) { user.moveTo(300, 301); }},
+    {"101 pixels to and fro",
+     [](const User& user, auto&, Window) {
+         for (int step = 1; step <= 101; ++step)
+             user.moveTo(200 + step % 2, 300);
+     }},
+    {"SIGTERM", [](auto&, const ChildProcess& saver, Window) { saver.signal(SIGTERM); }},
+    {"SIGINT", [](auto&, const ChildProcess& saver, Window) { saver.signal(SIGINT); }},
+    {"SIGHUP", [](auto&, const ChildProcess& saver, Window) { saver.signal(SIGHUP); }},
+};
+
+TEST_F(Saver, EndsWithStatusZeroAndWithoutAWord)
+{
+    for (const Ending& ending : endings) {
+        SCOPED_TRACE(ending.name);
+        user.moveTo(200, 300);
+        ChildProcess saver = quazo({"/s"});
+        const Window window = running(saver);
+        ASSERT_TRUE(User::waitUntil([&] { return isLit(1); }));
+        ending.act(user, saver, window);
+        EXPECT_EQ(saver.wait(), 0);
+        EXPECT_EQ(saver.standardError(), "");
+        EXPECT_TRUE(user.mappedWindows().empty());
+    }
+}
+
+TEST_F(Saver, GoesOnThroughWhatIsNoReasonToEnd)
+{
+    user.moveTo(200, 300);
+    ChildProcess saver = quazo({"xys"});
+    running(saver);
+    ASSERT_TRUE(User::waitUntil([&] { return isLit(1); }));
+    user.moveTo(250, 350); // 100 pixels, and not one more
+    for (const int key : {XK_a, XK_space, XK_Return, XK_F1, XK_Shift_L, XK_Tab})
+        user.press(static_cast<KeySym>(key));
+    user.click(4); // the wheel
+    EXPECT_EQ(saver.wait(std::chrono::seconds(1)), std::nullopt);
+    user.moveTo(251, 350);
+    EXPECT_EQ(saver.wait(), 0);
+}
+
+TEST_F(Saver, CoversTheScreenButForItsLastRow)
+{
+    ChildProcess saver = quazo({"/S"});
+    const Window window = running(saver);
+    ASSERT_TRUE(User::waitUntil([&] { return user.attributesOf(window).height == 767; }));
+    const XWindowAttributes place = user.attributesOf(window);
+    EXPECT_EQ(place.x, 0);
+    EXPECT_EQ(place.y, 0);
+    EXPECT_EQ(place.width, 1024);
+    EXPECT_EQ(place.depth, 24); // a visual with alpha would let the desktop shine through
+}
+
+// Blobs leave black around them, filaments shine, and what moved away has left a dim trail.
+TEST_F(Saver, ShowsGlowingBlobsOnBlack)
+{
+    ChildProcess saver = quazo({"/s"});
+    running(saver);
+    ASSERT_TRUE(User::waitUntil([&] { return isLit(160); }));
+    const User::Picture picture = user.look();
+    int dark = 0;
+    int dim = 0;
+    int bright = 0;
+    for (int y = 0; y < picture.height; ++y)
+        for (int x = 0; x < picture.width; ++x) {
+            const int value = picture.brightness(x, y);
+            ++(value < 8 ? dark : value < 96 ? dim : bright);
+        }
+    const int pixels = picture.width * picture.height;
+    EXPECT_GT(dim, pixels / 20);
+    EXPECT_GT(bright, pixels / 2000);
+    EXPECT_LT(bright, pixels / 2);
+}
+
+// Nobody of this process is connected when the server goes: Xlib would end the test with it.
+TEST(SaverWithoutServer, GoesWithoutAWord)
+{
+    std::optional<VirtualDisplay> display(std::in_place);
+    ChildProcess saver = quazo({"/s"});
+    EXPECT_NE(User().waitForWindow(saverTitle), 0u);
+    display.reset();
+    EXPECT_EQ(saver.wait(std::chrono::seconds(5)), 0);
+    EXPECT_EQ(saver.standardError(), "");
+}
+
+} // namespace

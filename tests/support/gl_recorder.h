@@ -1,0 +1,42 @@
+#pragma once
+
+#include "zrk/gl.h"
+
+#include <span>
+#include <string>
+#include <vector>
+
+/// Stands in for OpenGL and GLU where it is linked: every call becomes one line of text, such as
+/// "glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, GL_MODULATE)", and answers as scripted.
+/// Floats are printed with %g; pixels are printed as "pixels", or "null".
+namespace gl_recorder {
+
+/// Forgets the calls and all scripts; generated texture names start again at 1.
+void reset();
+
+/// The lines since `reset` or the last `takeCalls`.
+const std::vector<std::string>& calls();
+std::vector<std::string> takeCalls();
+
+/// Adds a line of the test's own, to see it in order with the calls.
+void note(const std::string& line);
+
+/// The next `glGetError` answers `code`, those after it GL_NO_ERROR.
+void setNextError(GLenum code);
+
+/// Value or values that glGetIntegerv, glGetTexParameteriv, glGetTexEnviv (`name` their pname) and
+/// glGetTexEnvfv answer.
+void answer(GLenum name, GLint value);
+void answer(GLenum name, std::span<const GLfloat> values);
+
+/// What glGetString(GL_EXTENSIONS) answers; "" after `reset`.
+void setExtensions(const std::string& extensions);
+
+/// Stands in for the multitexture extension's entry point: "glActiveTextureARB(GL_TEXTURE1_ARB)".
+void APIENTRY activeTexture(GLenum unit);
+
+/// The bytes last handed to glTexImage2D or gluBuild2DMipmaps, `bytesPerPixel` by what the format
+/// says.
+const std::vector<unsigned char>& uploadedPixels();
+
+} // namespace gl_recorder

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <X11/Xlib.h>
+
+#include <chrono>
+#include <functional>
+#include <string>
+#include <vector>
+
+/// Somebody before the screen that DISPLAY names: looks at it, types and moves the mouse, over an X
+/// connection of their own.
+class User {
+public:
+    struct Picture {
+        int width = 0, height = 0;
+        std::vector<unsigned char> rgb; ///< Rows from the top, three bytes a pixel.
+
+        int brightness(int x, int y) const; ///< Of the brightest channel, 0 to 255.
+    };
+
+    User();
+    User(const User&) = delete;
+    User& operator=(const User&) = delete;
+    ~User();
+
+    /// Calls `condition` until it holds; false when it does not within `limit`.
+    static bool waitUntil(const std::function<bool()>& condition,
+                          std::chrono::milliseconds limit = std::chrono::seconds(20));
+
+    /// The first mapped top-level window of this title, or 0 when none came in time.
+    Window waitForWindow(const std::string& title) const;
+    std::vector<Window> mappedWindows() const;
+    XWindowAttributes attributesOf(Window window) const;
+    std::string titleOf(Window window) const;
+
+    void press(KeySym key) const;
+    void hold(KeySym key, bool down) const;
+    void click(unsigned button) const;
+    void moveTo(int x, int y) const;
+
+    /// Asks the window to close, as a window manager does.
+    void askToClose(Window window) const;
+
+    Picture look() const;
+    Display* connection() const { return display; }
+
+private:
+    Display* display;
+};

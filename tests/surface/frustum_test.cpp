@@ -1,0 +1,60 @@
+#include "surface/bounding_box.h"
+#include "surface/view_frustum.h"
+#include "tests/support/surface_world.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Case {
+    const char* what;
+    BoundingBox box;
+    std::int32_t lastBefore;
+    std::uint8_t inherited;
+    int result;
+    std::int32_t lastAfter;
+};
+
+// In a view that reaches from -10 to 10 on each axis.
+const Case cases[] = {
+    {"inside", {Vec3(-1), Vec3(1)}, -1, 0, 63, -1},
+    {"across the bottom", {{-1, -11, -1}, Vec3(1)}, -1, 0, 59, -1},
+    {"beyond the top", {{-1, 11, -1}, {1, 12, 1}}, -1, 0, 0, 3},
+    {"touching the top from outside", {{-1, 10, -1}, {1, 12, 1}}, -1, 0, 55, -1},
+    {"touching the top from inside", {{-1, 9, -1}, {1, 10, 1}}, -1, 0, 63, -1},
+    {"across all planes", {Vec3(-11), Vec3(11)}, -1, 0, 0, -1},
+    {"across all planes but one known", {Vec3(-11), Vec3(11)}, -1, 4, 4, -1},
+    // Beyond right and top: which of the two rejects tells which was evaluated first.
+    {"in order", {Vec3(11), Vec3(12)}, -1, 0, 0, 0},
+    {"the last rejecting plane first", {Vec3(11), Vec3(12)}, 3, 0, 0, 3},
+    {"the last rejecting plane known", {Vec3(11), Vec3(12)}, 3, 8, 0, 0},
+    {"the last rejecting plane no more", {Vec3(-1), Vec3(1)}, 3, 0, 63, 3},
+    {"no known plane evaluated", {Vec3(11), Vec3(12)}, 3, 63, 63, 3},
+};
+
+} // namespace
+
+TEST(Frustum, ClassifiesBoxes)
+{
+    surface_world::seeBox(10);
+    for (const Case& c : cases) {
+        BoundingBox box = c.box;
+        box.lastCullingPlane = c.lastBefore;
+        EXPECT_EQ(viewFrustum.classifyBox(box, c.inherited), c.result) << c.what;
+        EXPECT_EQ(box.lastCullingPlane, c.lastAfter) << c.what;
+    }
+}
+
+TEST(Frustum, ObliquePlanesMeetTheCornersThatMatter)
+{
+    // The left plane passes through the eye at (0, 0, -500): right of it lies x > -z' * 4/3 / f.
+    surface_world::seeWindow(4.0f / 3.0f);
+    const float edge = -500.0f / (1.5485778f * 0.75f); // x of the left plane at z = 0
+    BoundingBox outside({edge - 10, -1, -1}, {edge - 2, 1, 0});
+    EXPECT_EQ(viewFrustum.classifyBox(outside, 0), 0);
+    EXPECT_EQ(outside.lastCullingPlane, 1);
+    BoundingBox crossing({edge - 2, -1, 0}, {edge + 2, 1, 1});
+    EXPECT_EQ(viewFrustum.classifyBox(crossing, 0), 63 - 2);
+    BoundingBox inside({edge + 2, -1, 0}, {edge + 10, 1, 1});
+    EXPECT_EQ(viewFrustum.classifyBox(inside, 0), 63);
+}
