@@ -1,0 +1,42 @@
+#!/usr/bin/env bash
+# Builds the saver and runs it: on the display, or, without one, for a few seconds on a virtual
+# display of its own, leaving a picture.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+source scripts/packages.sh
+
+require_packages $build_packages $run_packages
+cmake --preset release -DBUILD_TESTING=OFF -DQUAZO_BENCH=OFF --log-level=WARNING ||
+    stop "cannot configure the build"
+cmake --build --preset release || stop "cannot build"
+
+if [ -n "${DISPLAY:-}" ]; then
+    echo "Escape, a click or a good move of the mouse ends the saver."
+    exec build/release/quazo /s
+fi
+
+require_packages $virtual_display_packages
+picture=build/quazo.png
+scratch=$(mktemp -d)
+trap 'kill ${saver:-} ${server:-} 2>/dev/null; wait; rm -rf "$scratch"' EXIT
+
+# The server picks a free number, and writes it down once it is ready.
+Xvfb -displayfd 3 -screen 0 1280x720x24 -nolisten tcp 3>"$scratch/number" 2>"$scratch/server.log" &
+server=$!
+for _ in $(seq 100); do
+    [ -s "$scratch/number" ] && break
+    kill -0 "$server" 2>/dev/null || stop "cannot start Xvfb: $(tail -n 1 "$scratch/server.log")"
+    sleep 0.1
+done
+[ -s "$scratch/number" ] || stop "Xvfb did not come up"
+export DISPLAY=":$(cat "$scratch/number")"
+
+build/release/quazo /s &
+saver=$!
+sleep 6
+kill -0 "$saver" 2>/dev/null || stop "the saver ended by itself"
+scrot --overwrite "$picture"
+kill -TERM "$saver"
+wait "$saver" || stop "the saver ended with status $?"
+saver=
+echo "No display here: the saver ran on a virtual one. Its picture: $PWD/$picture"
