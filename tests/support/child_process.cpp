@@ -13,8 +13,8 @@ namespace {
 std::string contentsOf(int file)
 {
     std::string text(static_cast<std::size_t>(lseek(file, 0, SEEK_END)), '\0');
-    text.resize(static_cast<std::size_t>(
-        std::max<ssize_t>(0, pread(file, text.data(), text.size(), 0))));
+    text.resize(
+        static_cast<std::size_t>(std::max<ssize_t>(0, pread(file, text.data(), text.size(), 0))));
     return text;
 }
 
@@ -37,7 +37,8 @@ std::string contentsOf(int file)
 } // namespace
 
 ChildProcess::ChildProcess(const std::vector<std::string>& arguments, const Environment& changes)
-    : process(0), outputs{memfd_create("stdout", MFD_CLOEXEC), memfd_create("stderr", MFD_CLOEXEC)}
+    : process(0),
+      outputs{memfd_create("stdout", MFD_CLOEXEC), memfd_create("stderr", MFD_CLOEXEC)}
 {
     process = fork();
     if (process == 0)

@@ -2,20 +2,7 @@
 
 #include <GL/glx.h>
 
-#include <dlfcn.h>
-#include <link.h>
 #include <stdexcept>
-
-namespace {
-
-// A driver that is unloaded has no name any more by which its own leaks could be told from ours.
-int keepLoaded(dl_phdr_info* module, std::size_t, void*)
-{
-    dlopen(module->dlpi_name, RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE);
-    return 0;
-}
-
-} // namespace
 
 GlTestContext::GlTestContext(int width, int height) : display(XOpenDisplay(nullptr))
 {
@@ -38,7 +25,6 @@ GlTestContext::GlTestContext(int width, int height) : display(XOpenDisplay(nullp
 
 GlTestContext::~GlTestContext()
 {
-    dl_iterate_phdr(keepLoaded, nullptr);
     glXMakeContextCurrent(display, None, None, nullptr);
     glXDestroyContext(display, context);
     glXDestroyPbuffer(display, picture);

@@ -50,9 +50,8 @@ std::vector<Window> User::mappedWindows() const
     XQueryTree(display, DefaultRootWindow(display), &root, &parent, &children, &count);
     std::vector<Window> windows(children, children + count);
     XFree(children);
-    std::erase_if(windows, [this](Window window) {
-        return attributesOf(window).map_state != IsViewable;
-    });
+    std::erase_if(windows,
+                  [this](Window window) { return attributesOf(window).map_state != IsViewable; });
     return windows;
 }
 

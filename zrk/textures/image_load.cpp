@@ -1,6 +1,7 @@
+#include "zrk/textures/texture.h"
+
 #include "zrk/renderer.h"
 #include "zrk/textures/rgba32_format.h"
-#include "zrk/textures/texture.h"
 
 #include <SDL_image.h>
 

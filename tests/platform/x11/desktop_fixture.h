@@ -3,7 +3,6 @@
 #include <gtest/gtest.h> // before Xlib, which makes a macro of a name of its
 
 #include "platform/desktop.h"
-#include "tests/support/loaded_modules.h"
 #include "tests/support/user.h"
 #include "tests/support/virtual_display.h"
 
@@ -17,11 +16,7 @@ protected:
     static constexpr platform::desktop::Size screen{1024, 768};
 
     // The port goes last but before its server, whose loss would end this process as a success.
-    ~DesktopFixture() override
-    {
-        keepModulesLoaded();
-        platform::desktop::disconnect();
-    }
+    ~DesktopFixture() override { platform::desktop::disconnect(); }
 
     /// Opens and shows a window as the program does.
     platform::desktop::NativeWindow open(platform::desktop::Size client = {800, 600})
