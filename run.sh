@@ -6,7 +6,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 source scripts/packages.sh
 
 require_packages $build_packages $run_packages
-cmake --preset release -DBUILD_TESTING=OFF -DQUAZO_BENCH=OFF --log-level=WARNING ||
+cmake --preset release -DBUILD_TESTING=OFF -DQUAZO_BENCH=OFF >/dev/null ||
     stop "cannot configure the build"
 cmake --build --preset release || stop "cannot build"
 

@@ -21,7 +21,7 @@ find app bench platform surface tests tools zrk -name "*.h" -o -name "*.cpp" |
 
 for preset in release sanitize; do
     step "build: $preset"
-    cmake --preset "$preset" -DBUILD_TESTING=ON -DQUAZO_BENCH=ON --log-level=WARNING
+    cmake --preset "$preset" -DBUILD_TESTING=ON -DQUAZO_BENCH=ON >/dev/null
     cmake --build --preset "$preset"
     step "tests: $preset"
     ctest --preset "$preset" --no-tests=error -j 2

@@ -1,11 +1,15 @@
 #include "platform/desktop.h"
 #include "platform/signals.h"
 
+#include <chrono>
 #include <span>
 #include <string>
 #include <utility>
 
 namespace {
+
+// A host waits for its saver to go: a tenth of a second, less what going takes.
+constexpr std::chrono::milliseconds hostsPatience{80};
 
 std::string joinedByBlanks(std::span<char* const> arguments)
 {
@@ -20,9 +24,8 @@ std::string joinedByBlanks(std::span<char* const> arguments)
 
 int main(int argumentCount, char** arguments)
 {
-    platform::installEndSignals();
-    platform::desktop::chooseHost(argumentCount, arguments);
-    platform::desktop::chooseHost(argumentCount, arguments);
+    const bool hosted = platform::desktop::chooseHost(argumentCount, arguments);
+    platform::installEndSignals(hosted ? hostsPatience : std::chrono::milliseconds(0));
     // The first argument is the program; a host may have given not even that.
     const std::span<char* const> all(arguments, static_cast<std::size_t>(argumentCount));
     std::string commandLine = joinedByBlanks(all.empty() ? all : all.subspan(1));

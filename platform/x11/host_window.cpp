@@ -7,7 +7,6 @@
 #include <charconv>
 #include <cstdio>
 #include <cstdlib>
-#include <optional>
 #include <string_view>
 #include <system_error>
 #include <unistd.h>
@@ -16,34 +15,41 @@ namespace platform::x11 {
 
 namespace {
 
-constinit std::optional<::Window> named;
+constexpr ::Window noWindow = 0;
+
+constinit const char* given = nullptr; // what names the host's window, as it was written
+constinit ::Window named = noWindow;
 constinit bool adopted = false;
 
-// The number that the whole of `text` is, in decimal or with 0x in hexadecimal. A number that no
-// window can have counts as 0, which no window has.
-std::optional<::Window> windowNumber(std::string_view text)
+// The number that the whole of `text` is, in decimal or with 0x in hexadecimal; any other text is
+// no window.
+::Window windowNumber(std::string_view text)
 {
     const bool hexadecimal = text.starts_with("0x") || text.starts_with("0X");
     if (hexadecimal)
         text.remove_prefix(2);
-    ::Window number = 0;
+    ::Window number = noWindow;
     const char* const end = text.data() + text.size();
     const auto [stop, failure] = std::from_chars(text.data(), end, number, hexadecimal ? 16 : 10);
-    if (stop != end || failure == std::errc::invalid_argument)
-        return std::nullopt;
-    return number;
+    return stop == end && failure == std::errc() ? number : noWindow;
+}
+
+void take(const char* text)
+{
+    given = text;
+    named = windowNumber(text);
 }
 
 } // namespace
 
 bool hosted()
 {
-    return named.has_value();
+    return given != nullptr;
 }
 
 ::Window hostWindow()
 {
-    return named.value_or(0);
+    return named;
 }
 
 void adoptHost(Display* display)
@@ -55,7 +61,7 @@ void adoptHost(Display* display)
     // host.
     XSelectInput(display, hostWindow(), StructureNotifyMask);
     if (trap.firstError() != 0) {
-        std::fprintf(stderr, "quazo: 0x%lx, given by the host, is no window\n", hostWindow());
+        std::fprintf(stderr, "quazo: %s, given by the host, is no window\n", given);
         std::exit(1);
     }
     adopted = true;
@@ -81,15 +87,17 @@ bool followHost(const XEvent& event)
 
 } // namespace platform::x11
 
-void platform::desktop::chooseHost(int argumentCount, const char* const* arguments)
+bool platform::desktop::chooseHost(int argumentCount, const char* const* arguments)
 {
     using namespace platform::x11;
-    named.reset();
+    given = nullptr;
+    named = noWindow;
     adopted = false;
-    for (int i = 1; i + 1 < argumentCount && !named; ++i)
+    for (int i = 1; i + 1 < argumentCount && named == noWindow; ++i)
         if (std::string_view(arguments[i]) == "--window-id")
-            named = windowNumber(arguments[i + 1]);
+            take(arguments[i + 1]);
     const char* const fromEnvironment = std::getenv("XSCREENSAVER_WINDOW");
-    if (!named && fromEnvironment != nullptr)
-        named = windowNumber(fromEnvironment);
+    if (named == noWindow && fromEnvironment != nullptr && *fromEnvironment != '\0')
+        take(fromEnvironment);
+    return hosted();
 }

@@ -5,7 +5,7 @@
 /// A host is the program that started us to draw in a window of its own.
 namespace platform::x11 {
 
-/// True when `desktop::chooseHost` found a host's window.
+/// True when `desktop::chooseHost` was given a window to draw in.
 [[nodiscard]] bool hosted();
 
 /// The window that the host named; only meaningful when hosted.

@@ -41,15 +41,16 @@ bool User::waitUntil(const std::function<bool()>& condition, std::chrono::millis
     return true;
 }
 
-std::vector<Window> User::mappedWindows() const
+std::vector<Window> User::mappedWindows(Window parent) const
 {
-    Window root = 0;
-    Window parent = 0;
+    Window ignored = 0;
     Window* children = nullptr;
     unsigned count = 0;
-    XQueryTree(display, DefaultRootWindow(display), &root, &parent, &children, &count);
+    const Window place = parent == 0 ? DefaultRootWindow(display) : parent;
+    XQueryTree(display, place, &ignored, &ignored, &children, &count);
     std::vector<Window> windows(children, children + count);
-    XFree(children);
+    if (children != nullptr)
+        XFree(children);
     std::erase_if(windows,
                   [this](Window window) { return attributesOf(window).map_state != IsViewable; });
     return windows;

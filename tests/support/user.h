@@ -29,7 +29,9 @@ public:
 
     /// The first mapped top-level window of this title, or 0 when none came in time.
     Window waitForWindow(const std::string& title) const;
-    std::vector<Window> mappedWindows() const;
+
+    /// Those right in `parent`, the lowest first; 0 is the root window.
+    std::vector<Window> mappedWindows(Window parent = 0) const;
     XWindowAttributes attributesOf(Window window) const;
     std::string titleOf(Window window) const;
 

@@ -81,8 +81,9 @@ TEST_F(Host, IsNamedByTheArgumentThenByTheEnvironment)
         const char* environment;
         Size desktop;
     } cases[] = {
-        {number, "12", hostSize},      {"none", number.c_str(), hostSize},
-        {"", "wayland-token", screen}, {"", "", screen},
+        {number, "12", hostSize},
+        {"none", number.c_str(), hostSize},
+        {"", "", screen},
         {"", nullptr, screen},
     };
     for (const auto& [argument, environment, desktop] : cases) {
@@ -111,9 +112,9 @@ TEST_F(Host, EndsTheProcessWithItsWindow)
 
 TEST_F(Host, EndsTheProcessWhenItsWindowIsNone)
 {
-    for (const char* number : {"0", "12", "0xFFFFFFFFFFFFFFFFF"}) {
+    for (const char* number : {"0", "12", "0xFFFFFFFFFFFFFFFFF", "wayland-token"}) {
         choose(number, nullptr);
         EXPECT_EXIT((void)createWindow("title", 0, 0, {800, 600}), testing::ExitedWithCode(1),
-                    "^quazo: 0x[0-9a-f]+, given by the host, is no window\n$");
+                    "^quazo: .+, given by the host, is no window\n$");
     }
 }
