@@ -38,8 +38,7 @@ struct Message {
 /// Finds out whether the program was started to draw in another one's window: `--window-id N`
 /// among its arguments, else the environment's XSCREENSAVER_WINDOW, a number in decimal or with
 /// 0x. True when something is given there; if that is no window, connecting ends the process with
-/// status 1 and a line on standard error. The texts must outlive the connection. Call it before
-/// anything else here.
+/// status 1 and a line on standard error. Call it before anything else here.
 bool chooseHost(int argumentCount, const char* const* arguments);
 
 /// The desktop's size; false when there is no desktop to draw on. The first call connects.

@@ -7,6 +7,7 @@
 #include <charconv>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 #include <string_view>
 #include <system_error>
 #include <unistd.h>
@@ -17,7 +18,7 @@ namespace {
 
 constexpr ::Window noWindow = 0;
 
-constinit const char* given = nullptr; // what names the host's window, as it was written
+constinit std::string given; // what names the host's window, as it was written
 constinit ::Window named = noWindow;
 constinit bool adopted = false;
 
@@ -44,7 +45,7 @@ void take(const char* text)
 
 bool hosted()
 {
-    return given != nullptr;
+    return !given.empty();
 }
 
 ::Window hostWindow()
@@ -61,7 +62,7 @@ void adoptHost(Display* display)
     // host.
     XSelectInput(display, hostWindow(), StructureNotifyMask);
     if (trap.firstError() != 0) {
-        std::fprintf(stderr, "quazo: %s, given by the host, is no window\n", given);
+        std::fprintf(stderr, "quazo: %s, given by the host, is no window\n", given.c_str());
         std::exit(1);
     }
     adopted = true;
@@ -90,11 +91,11 @@ bool followHost(const XEvent& event)
 bool platform::desktop::chooseHost(int argumentCount, const char* const* arguments)
 {
     using namespace platform::x11;
-    given = nullptr;
+    given.clear();
     named = noWindow;
     adopted = false;
     for (int i = 1; i + 1 < argumentCount && named == noWindow; ++i)
-        if (std::string_view(arguments[i]) == "--window-id")
+        if (std::string_view(arguments[i]) == "--window-id" && *arguments[i + 1] != '\0')
             take(arguments[i + 1]);
     const char* const fromEnvironment = std::getenv("XSCREENSAVER_WINDOW");
     if (named == noWindow && fromEnvironment != nullptr && *fromEnvironment != '\0')

@@ -166,18 +166,17 @@ private:
     Fl_Return_Button button;
 };
 
-// Gives FLTK a connection of its own, so that it does not eat our windows' events. It is kept for
-// the next box: FLTK's fonts and colours are the connection's, and FLTK never makes them anew.
+// Gives FLTK a connection of its own, so that it takes no event of our windows. Handed one, it
+// leaves the handlers of X errors alone, which are ours. The next box finds it again: it cannot be
+// closed, for FLTK keeps fonts and more of its first connection for good and crashes on another.
 bool openToolkit()
 {
     if (fl_display != nullptr)
         return true;
     Display* const display = XOpenDisplay(nullptr);
-    if (display == nullptr)
-        return false;
-    fl_open_display(display);
-    installErrorHandlers();
-    return true;
+    if (display != nullptr)
+        fl_open_display(display);
+    return display != nullptr;
 }
 
 void printLine(std::string text)
