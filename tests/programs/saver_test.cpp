@@ -1,6 +1,7 @@
 #include <gtest/gtest.h> // before Xlib, which makes a macro of a name of its
 
 #include "tests/programs/program.h"
+#include "tests/support/temporary_directory.h"
 #include "tests/support/user.h"
 #include "tests/support/virtual_display.h"
 
@@ -117,6 +118,24 @@ TEST_F(Saver, ShowsGlowingBlobsOnBlack)
     EXPECT_GT(dim, pixels / 20);
     EXPECT_GT(bright, pixels / 2000);
     EXPECT_LT(bright, pixels / 2);
+}
+
+TEST_F(Saver, ShowsTheFirstTextureWhereThereIsNoMultitexture)
+{
+    const TemporaryDirectory windows;
+    windows.write("###quazo!_data###/caustics.qvd", "textures\nshaders\n");
+    windows.write("textures", "1\nwhite.pgm\n");
+    windows.write("white.pgm", "P5 1 1 255\n\xFF");
+    const std::string stage = ", 0, linear, linear, repeat, repeat, modulate, <0, 0, 0, 0>";
+    windows.write("shaders", "two\n{\nmultitexture: 2" + stage + stage + "\nblend: one, one\n}\n");
+    ChildProcess saver = quazo({"/s"}, {{"QUAZO_WINDOWS_DIRECTORY", windows.path},
+                                        {"MESA_EXTENSION_OVERRIDE", "-GL_ARB_multitexture"}});
+    running(saver);
+    EXPECT_TRUE(User::waitUntil([&] { return isLit(100); }));
+    user.press(XK_Escape);
+    EXPECT_EQ(saver.wait(), 0);
+    EXPECT_EQ(saver.standardError(),
+              "quazo: no multitexture: of several textures only the first is shown\n");
 }
 
 // Nobody of this process is connected when the server goes: Xlib would end the test with it.
