@@ -125,20 +125,20 @@ BOOL DestroyWindow(HWND window)
     return TRUE;
 }
 
-BOOL ShowWindow(HWND handle, int /*command*/)
+BOOL ShowWindow(HWND window, int /*command*/)
 {
-    Window* window = findWindow(handle);
-    if (window == nullptr || window->shown)
-        return window != nullptr;
-    desktop::showWindow(window->native);
-    window->shown = true;
-    const desktop::Size client = window->toldSize;
-    sendMessage(handle, WM_ACTIVATE, WA_ACTIVE, 0);
+    Window* record = findWindow(window);
+    if (record == nullptr || record->shown)
+        return record != nullptr;
+    desktop::showWindow(record->native);
+    record->shown = true;
+    const desktop::Size client = record->toldSize;
+    sendMessage(window, WM_ACTIVATE, WA_ACTIVE, 0);
     // Told again although nothing changed: what a procedure sets up by the size, it can set up
     // once the window is there.
-    window = findWindow(handle);
-    if (window != nullptr)
-        sendSize(*window, client);
+    record = findWindow(window);
+    if (record != nullptr)
+        sendSize(*record, client);
     return FALSE;
 }
 
@@ -159,18 +159,18 @@ HWND SetFocus(HWND window)
     return nullptr;
 }
 
-LONG GetWindowLongA(HWND handle, int index)
+LONG GetWindowLongA(HWND window, int index)
 {
-    const Window* window = findWindow(handle);
-    return window != nullptr && index == GWL_STYLE ? static_cast<LONG>(window->style) : 0;
+    const Window* record = findWindow(window);
+    return record != nullptr && index == GWL_STYLE ? static_cast<LONG>(record->style) : 0;
 }
 
-LONG SetWindowLongA(HWND handle, int index, LONG value)
+LONG SetWindowLongA(HWND window, int index, LONG value)
 {
-    const LONG previous = GetWindowLongA(handle, index);
-    Window* window = findWindow(handle);
-    if (window != nullptr && index == GWL_STYLE)
-        window->style = static_cast<DWORD>(value);
+    const LONG previous = GetWindowLongA(window, index);
+    Window* record = findWindow(window);
+    if (record != nullptr && index == GWL_STYLE)
+        record->style = static_cast<DWORD>(value);
     return previous;
 }
 

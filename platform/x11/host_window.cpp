@@ -4,10 +4,10 @@
 #include "platform/x11/display.h"
 #include "platform/x11/window.h"
 
+#include <array>
 #include <charconv>
 #include <cstdio>
 #include <cstdlib>
-#include <string>
 #include <string_view>
 #include <system_error>
 #include <unistd.h>
@@ -18,7 +18,7 @@ namespace {
 
 constexpr ::Window noWindow = 0;
 
-constinit std::string given; // what names the host's window, as it was written
+constinit std::array<char, 64> given{}; // what names the host's window, as it was written
 constinit ::Window named = noWindow;
 constinit bool adopted = false;
 
@@ -37,7 +37,7 @@ constinit bool adopted = false;
 
 void take(const char* text)
 {
-    given = text;
+    std::snprintf(given.data(), given.size(), "%s", text);
     named = windowNumber(text);
 }
 
@@ -45,7 +45,7 @@ void take(const char* text)
 
 bool hosted()
 {
-    return !given.empty();
+    return given.front() != '\0';
 }
 
 ::Window hostWindow()
@@ -62,7 +62,7 @@ void adoptHost(Display* display)
     // host.
     XSelectInput(display, hostWindow(), StructureNotifyMask);
     if (trap.firstError() != 0) {
-        std::fprintf(stderr, "quazo: %s, given by the host, is no window\n", given.c_str());
+        std::fprintf(stderr, "quazo: %s, given by the host, is no window\n", given.data());
         std::exit(1);
     }
     adopted = true;
@@ -91,7 +91,7 @@ bool followHost(const XEvent& event)
 bool platform::desktop::chooseHost(int argumentCount, const char* const* arguments)
 {
     using namespace platform::x11;
-    given.clear();
+    given.fill('\0');
     named = noWindow;
     adopted = false;
     for (int i = 1; i + 1 < argumentCount && named == noWindow; ++i)
