@@ -11,8 +11,8 @@ struct Sphere;
 struct BoundingBox {
     std::array<Vec3, 2> corners; ///< The minimum corner, then the maximum corner.
 
-    /// The frustum plane that last rejected this box, or -1. `Frustum::classifyBox` tries it
-    /// first and keeps it up to date.
+    /// The frustum plane that last rejected this box, or -1. `Frustum::classifyBox` tries it first
+    /// and keeps it up to date.
     std::int32_t lastCullingPlane = -1;
 
     constexpr BoundingBox() = default;

@@ -1,14 +1,15 @@
 #pragma once
 
 #include "surface/bounding_box.h"
+#include "surface/float4.h"
 #include "surface/vec3.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
 
-// The numbering of a cell's corners and edges. Corner k also names octant k of the cell, and bit
-// k of a case index says that corner k lies outside the surface.
+// The numbering of a cell's corners and edges. Corner k also names octant k of the cell, and bit k
+// of a case index says that corner k lies outside the surface.
 //
 //        7 ------- 6
 //       /|        /|        y
@@ -71,6 +72,10 @@ struct CornerSample {
 };
 
 using CornerSamples = std::array<CornerSample, cornerCount>;
+
+/// A cell's minimum, middle and maximum in the lanes x, y and z: the lines that its octants'
+/// corners lie on.
+using GridLines = std::array<Float4, 3>;
 
 constexpr Vec3 cornerPosition(const BoundingBox& box, std::size_t corner)
 {

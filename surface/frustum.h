@@ -8,8 +8,8 @@
 
 struct BoundingBox;
 
-/// The six planes that bound what is seen, in world space, with normals that point out of the
-/// view. Bit i of a plane mask stands for plane i: 0 right, 1 left, 2 bottom, 3 top, 4 near, 5 far.
+/// The six planes that bound what is seen, in world space, with normals that point out of the view.
+/// Bit i of a plane mask stands for plane i: 0 right, 1 left, 2 bottom, 3 top, 4 near, 5 far.
 ///
 /// After a change of the view: write `planes`, `normalizePlanes`, copy `planes` to `testedPlanes`,
 /// `refreshSelectors`. Boxes are tested against `testedPlanes`, to which the selectors must belong.

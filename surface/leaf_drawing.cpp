@@ -9,7 +9,7 @@ void drawLeaf(const EdgeVertices& vertices, std::uint8_t caseIndex)
     for (const std::int32_t* edge = triTable[caseIndex].data(); *edge >= 0; ++edge) {
         const auto& [position, s, t] = vertices[static_cast<std::size_t>(*edge)];
         glTexCoord2f(s, t);
-        glVertex3f(position.x, position.y, position.z);
+        glVertex3f(position[0], position[1], position[2]);
     }
     glEnd();
 }

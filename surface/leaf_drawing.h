@@ -1,16 +1,15 @@
 #pragma once
 
 #include "surface/cell.h"
-#include "surface/vec3.h"
+#include "surface/float4.h"
 
 #include <array>
 #include <cstdint>
 
 /// Where the surface crosses an edge of a leaf cell, in world space, and its texture coordinate.
 struct EdgeVertex {
-    Vec3 position;
-    float s = 0.0f;
-    float t = 0.0f;
+    Float4 position; ///< In the lanes x, y and z.
+    float s, t;
 };
 
 /// One vertex an edge, in edge order; those of the edges not crossed are not looked at.

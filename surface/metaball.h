@@ -3,6 +3,15 @@
 #include "surface/sphere.h"
 #include "surface/vec3.h"
 
+/// A ball's share of the field at the squared distance `d2` from its centre: (1 - d²/R²)² within
+/// its radius, nothing from there on. For floats, and for Float4 lane by lane: both round alike.
+template <typename Real>
+constexpr Real fieldShare(Real falloff, Real d2)
+{
+    const Real s = falloff * d2;
+    return s >= 0.5f ? Real{} : 4.0f * (s * s - s + 0.25f);
+}
+
 /// One source of the field: 1 at its centre, falling smoothly to 0 at its radius.
 struct Metaball {
     float radius = 100.0f;                    ///< Of influence, in world units.
@@ -12,9 +21,15 @@ struct Metaball {
 
     void set(const Vec3& newCentre, float newRadius);
 
-    /// This ball's share of the field at a point in world space: (1 - d²/R²)² within the radius.
+    /// This ball's share of the field at a point in world space.
     float fieldAt(const Vec3& p) const { return fieldAt(p.x, p.y, p.z); }
-    float fieldAt(float x, float y, float z) const;
+    float fieldAt(float x, float y, float z) const
+    {
+        const float dx = x - centre.x;
+        const float dy = y - centre.y;
+        const float dz = z - centre.z;
+        return fieldShare(falloff, dx * dx + dy * dy + dz * dz);
+    }
 
     /// Makes `bounds` follow a centre and radius that were written directly.
     void syncBounds();

@@ -2,6 +2,7 @@
 
 #include "surface/frustum.h"
 #include "surface/metaball_field.h"
+#include "surface/nearby_balls.h"
 #include "surface/view_frustum.h"
 #include "zrk/allocation.h"
 #include "zrk/shaders/shader.h"
@@ -33,11 +34,6 @@ float MetaballSurface::fieldAt(const Vec3& p) const
     return ::fieldAt(allBalls(), p);
 }
 
-Vec3 MetaballSurface::surfaceTexCoord(const Vec3& p, float valueAtP) const
-{
-    return ::surfaceTexCoord(allBalls(), p, valueAtP);
-}
-
 void MetaballSurface::polygonizeAndDraw()
 {
     const std::uint8_t visibility = viewFrustum.classifyBox(region, 0);
@@ -58,6 +54,7 @@ void MetaballSurface::polygonizeAndDraw()
 
     shader->apply();
     syncBounds();
+    nearbyBalls.begin(allBalls(), region, octree.maxDepth);
     subdivide(*octree.root, values, 0, caseIndexOf(values, threshold), visibility);
 }
 

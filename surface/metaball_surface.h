@@ -37,10 +37,6 @@ public:
     /// The field of all balls at a point in world space.
     float fieldAt(const Vec3& p) const;
 
-    /// The texture coordinate of a point on the surface where the field is `valueAtP`; z is not
-    /// drawn.
-    Vec3 surfaceTexCoord(const Vec3& p, float valueAtP) const;
-
     /// Lets the spheres that cells are tested against follow their balls.
     void syncBounds();
 
@@ -69,11 +65,6 @@ private:
 
     /// Draws the triangles of a leaf cell, if it has any.
     void polygonizeLeaf(const CornerSamples& samples, std::uint8_t caseIndex) const;
-
-    /// Where the surface crosses the edge from `pa` to `pb`, and the field there. One of the
-    /// ends, with the field values `va` and `vb`, must be inside and the other outside.
-    void interpolateEdge(const Vec3& pa, const Vec3& pb, float va, float vb, Vec3& outVertex,
-                         float& outValue) const;
 };
 
 /// The one surface of the program.

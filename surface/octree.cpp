@@ -14,11 +14,3 @@ void NodePool::resize(std::uint32_t newCapacity)
     nodes = zrk::newArray<OctreeNode>(newCapacity);
     capacity = newCapacity;
 }
-
-OctreeNode* NodePool::take()
-{
-    assert(capacity > 0);
-    if (next == capacity)
-        next = 0;
-    return &nodes[next++];
-}

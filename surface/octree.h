@@ -3,6 +3,7 @@
 #include "surface/bounding_box.h"
 
 #include <array>
+#include <cassert>
 #include <cstdint>
 #include <memory>
 
@@ -31,7 +32,13 @@ public:
     /// The next node, as its last user left it. After the last node comes the first again, so a
     /// tree of more nodes than `size` overwrites its own: what a visit needs of its node it must
     /// read before it takes another. The size must not be 0.
-    OctreeNode* take();
+    OctreeNode* take()
+    {
+        assert(capacity > 0);
+        if (next == capacity)
+            next = 0;
+        return &nodes[next++];
+    }
 
     std::uint32_t size() const { return capacity; }
 

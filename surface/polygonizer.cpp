@@ -1,80 +1,107 @@
 #include "surface/bounding_box.h"
 #include "surface/cell.h"
+#include "surface/float4.h"
 #include "surface/frustum.h"
 #include "surface/leaf_drawing.h"
 #include "surface/marching_cubes_tables.h"
 #include "surface/metaball_field.h"
 #include "surface/metaball_surface.h"
+#include "surface/nearby_balls.h"
 #include "surface/view_frustum.h"
 
-#include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
+#include <cstdint>
 #include <span>
 
 namespace {
 
-/// A cell's minimum, middle and maximum on each axis: the lines that its octants' corners lie on.
-struct GridLines {
-    std::array<float, 3> x, y, z;
-};
-
-/// The field where the lines meet, by x, y and z.
-using Grid = std::array<std::array<std::array<float, 3>, 3>, 3>;
-
 GridLines gridLines(const BoundingBox& box)
 {
-    const Vec3& low = box.min();
-    const Vec3& high = box.max();
-    const Vec3 middle = low + (high - low) * 0.5f;
-    return {{low.x, middle.x, high.x}, {low.y, middle.y, high.y}, {low.z, middle.z, high.z}};
+    const Float4 low{box.min().x, box.min().y, box.min().z};
+    const Float4 high{box.max().x, box.max().y, box.max().z};
+    return {low, low + (high - low) * 0.5f, high};
 }
 
-/// The corner values at the grid's corners, and samples at its 19 other points.
-Grid sampleGrid(std::span<const Metaball> balls, const GridLines& lines, const CornerValues& values)
+BoundingBox octantBox(const GridLines& lines, std::size_t octant)
 {
-    Grid grid;
-    for (std::size_t a = 0; a < 3; ++a)
-        for (std::size_t b = 0; b < 3; ++b)
-            for (std::size_t e = 0; e < 3; ++e)
-                if (a == 1 || b == 1 || e == 1)
-                    grid[a][b][e] = ::fieldAt(balls, {lines.x[a], lines.y[b], lines.z[e]});
-    for (std::size_t corner = 0; corner < cornerCount; ++corner) {
-        const auto& [x, y, z] = cornerOffset[corner];
-        grid[2 * x][2 * y][2 * z] = values[corner];
-    }
-    return grid;
+    const auto& [x, y, z] = cornerOffset[octant];
+    return {{lines[x][0], lines[y][1], lines[z][2]},
+            {lines[x + 1][0], lines[y + 1][1], lines[z + 1][2]}};
 }
 
-CornerValues childCorners(const Grid& grid, std::size_t child)
+CornerValues octantCorners(const Grid& grid, std::size_t octant)
 {
-    const auto& [ox, oy, oz] = cornerOffset[child];
+    const auto& [ox, oy, oz] = cornerOffset[octant];
     CornerValues values;
     for (std::size_t corner = 0; corner < cornerCount; ++corner) {
         const auto& [cx, cy, cz] = cornerOffset[corner];
-        values[corner] = grid[ox + cx][oy + cy][oz + cz];
+        values[corner] = grid[oy + cy][oz + cz][ox + cx];
     }
     return values;
 }
 
-BoundingBox childBox(const GridLines& lines, std::size_t child)
+using OctantCases = std::array<std::uint8_t, cornerCount>;
+
+/// The case indices of a cell's octants, as `caseIndexOf` has them for each.
+OctantCases octantCases(const Grid& grid, float threshold)
 {
-    const auto& [x, y, z] = cornerOffset[child];
-    return {{lines.x[x], lines.y[y], lines.z[z]}, {lines.x[x + 1], lines.y[y + 1], lines.z[z + 1]}};
+    // By the offset in y and z of a row of an octant's corners: the bit of the corner at the
+    // minimum of x in the second byte, of that at the maximum in the first.
+    static constexpr std::int32_t cornerBits[2][2]{{0x0102, 0x0804}, {0x1020, 0x8040}};
+    Int4 outside[2][2]{};
+    for (std::size_t y = 0; y < 2; ++y)
+        for (std::size_t z = 0; z < 2; ++z)
+            for (std::size_t b = 0; b < 2; ++b)
+                for (std::size_t e = 0; e < 2; ++e)
+                    outside[y][z] |= ~(grid[y + b][z + e] >= threshold) & cornerBits[b][e];
+    OctantCases cases;
+    for (std::size_t octant = 0; octant < cornerCount; ++octant) {
+        const auto& [x, y, z] = cornerOffset[octant];
+        const Int4 row = outside[y][z];
+        cases[octant] = static_cast<std::uint8_t>(row[x] >> 8 | (row[x + 1] & 0xff));
+    }
+    return cases;
 }
 
-CornerSamples cornerSamples(const BoundingBox& box, const CornerValues& values)
+/// The octants that may hold surface, one bit each. Where all corners are outside, a small ball may
+/// still lie between them, if the field reaches the threshold anywhere in the octant.
+unsigned octantsToVisit(const OctantCases& cases, unsigned reachingThreshold)
 {
-    CornerSamples samples;
-    for (std::size_t corner = 0; corner < cornerCount; ++corner)
-        samples[corner] = {cornerPosition(box, corner), values[corner]};
+    unsigned octants = 0;
+    for (std::size_t octant = 0; octant < cornerCount; ++octant) {
+        const bool outside = cases[octant] == allOutside && (reachingThreshold >> octant & 1u) == 0;
+        octants |= (cases[octant] == allInside || outside ? 0u : 1u) << octant;
+    }
+    return octants;
+}
+
+const CornerSamples& cornerSamples(const BoundingBox& box, const CornerValues& values)
+{
+    static constinit CornerSamples samples;
+    for (std::size_t corner = 0; corner < cornerCount; ++corner) {
+        const Vec3 p = cornerPosition(box, corner);
+        // In one piece, as it will be read.
+        samples[corner] = std::bit_cast<CornerSample>(Float4{p.x, p.y, p.z, values[corner]});
+    }
     return samples;
 }
 
-bool reachedByABall(std::span<const Metaball> balls, const BoundingBox& box)
+/// Where the surface crosses an edge whose ends lie on different sides of it: x, y and z.
+Float4 interpolateEdge(const CornerSamples& samples, std::size_t edge, float threshold)
 {
-    return std::ranges::any_of(balls,
-                               [&](const Metaball& ball) { return box.intersects(ball.bounds); });
+    const auto from = std::bit_cast<Float4>(samples[edgeCorners[edge].from]);
+    const auto to = std::bit_cast<Float4>(samples[edgeCorners[edge].to]);
+    const Float4 way = to - from;
+    const float mu = (threshold - from[3]) / way[3];
+    return from + way * mu;
+}
+
+Points4 transposed(const std::array<Float4, 4>& p)
+{
+    return {Float4{p[0][0], p[1][0], p[2][0], p[3][0]}, Float4{p[0][1], p[1][1], p[2][1], p[3][1]},
+            Float4{p[0][2], p[1][2], p[2][2], p[3][2]}};
 }
 
 } // namespace
@@ -92,50 +119,47 @@ void MetaballSurface::subdivide(OctreeNode& node, const CornerValues& values, st
     static constinit BoundingBox testedBox;
 
     const GridLines lines = gridLines(node.bounds);
-    const Grid grid = sampleGrid(allBalls(), lines, values);
-    for (std::size_t k = 0; k < cornerCount; ++k) {
-        const CornerValues childValues = childCorners(grid, k);
-        const std::uint8_t childCase = caseIndexOf(childValues, threshold);
-        if (childCase == allInside)
-            continue;
-        testedBox.copyExtent(childBox(lines, k));
+    const Grid grid = sampleGrid(nearbyBalls.at(depth), lines);
+    const OctantCases cases = octantCases(grid, threshold);
+    nearbyBalls.measureOctants(depth, lines);
+    // A leaf whose corners are all outside holds nothing.
+    const bool leaves = depth + 1 == octree.maxDepth;
+    const unsigned reaching = leaves ? 0 : nearbyBalls.octantsReaching(depth, threshold);
+    for (unsigned open = octantsToVisit(cases, reaching); open != 0; open &= open - 1) {
+        const auto k = static_cast<std::size_t>(std::countr_zero(open));
+        testedBox.copyExtent(octantBox(lines, k));
         const std::uint8_t childVisibility = viewFrustum.classifyBox(testedBox, visibility);
-        // Where all corners are outside, a small ball may still lie between them.
-        if (childVisibility == 0 || !reachedByABall(allBalls(), testedBox))
+        if (childVisibility == 0 || !nearbyBalls.enterOctant(depth, k))
             continue;
         OctreeNode* const child = nodePool.take();
         node.children[k] = child;
         child->bounds.copyExtent(testedBox);
         child->children.fill(nullptr);
-        subdivide(*child, childValues, depth + 1, childCase, childVisibility);
+        subdivide(*child, octantCorners(grid, k), depth + 1, cases[k], childVisibility);
     }
 }
 
 void MetaballSurface::polygonizeLeaf(const CornerSamples& samples, std::uint8_t caseIndex) const
 {
-    const std::uint32_t crossed = edgeTable[caseIndex];
-    if (crossed == 0)
+    if (edgeTable[caseIndex] == 0)
         return;
-    EdgeVertices vertices;
-    for (std::size_t edge = 0; edge < edgeCount; ++edge) {
-        if ((crossed >> edge & 1u) == 0)
-            continue;
-        const CornerSample& from = samples[edgeCorners[edge].from];
-        const CornerSample& to = samples[edgeCorners[edge].to];
-        EdgeVertex& vertex = vertices[edge];
-        float value = 0.0f;
-        interpolateEdge(from.position, to.position, from.value, to.value, vertex.position, value);
-        const Vec3 texCoord = surfaceTexCoord(vertex.position, value);
-        vertex.s = texCoord.x;
-        vertex.t = texCoord.y;
+
+    // In groups of four: the last one is filled up with the first edge again.
+    std::array<std::uint8_t, edgeCount + 3> edges;
+    std::size_t count = 0;
+    for (std::uint32_t open = edgeTable[caseIndex]; open != 0; open &= open - 1)
+        edges[count++] = static_cast<std::uint8_t>(std::countr_zero(open));
+    for (std::size_t i = 0; i < 3; ++i)
+        edges[count + i] = edges[0];
+
+    static constinit EdgeVertices vertices{};
+    for (std::size_t group = 0; group < count; group += 4) {
+        std::array<Float4, 4> p;
+        for (std::size_t i = 0; i < 4; ++i)
+            p[i] = interpolateEdge(samples, edges[group + i], threshold);
+        const auto [s, t] = surfaceTexCoords(nearbyBalls.at(octree.maxDepth), transposed(p));
+        for (std::size_t i = 0; i < 4; ++i)
+            vertices[edges[group + i]] = {p[i], s[i], t[i]};
     }
     drawLeaf(vertices, caseIndex);
-}
-
-void MetaballSurface::interpolateEdge(const Vec3& pa, const Vec3& pb, float va, float vb,
-                                      Vec3& outVertex, float& outValue) const
-{
-    const float mu = (threshold - va) / (vb - va);
-    outVertex = pa + (pb - pa) * mu;
-    outValue = fieldAt(outVertex);
 }

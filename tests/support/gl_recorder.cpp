@@ -1,20 +1,17 @@
 #include "tests/support/gl_recorder.h"
 
+#include "tests/support/call_text.h"
+
 #include <cstdio>
-#include <cstring>
 #include <initializer_list>
 #include <map>
-#include <span>
-#include <string>
 #include <utility>
-#include <vector>
 
 namespace {
 
 struct Recorder {
     std::vector<std::string> calls;
     std::map<GLenum, GLint> integers;
-    std::map<GLenum, std::vector<GLfloat>> floats;
     std::string extensions;
     std::vector<unsigned char> pixels;
     GLenum nextError = GL_NO_ERROR;
@@ -23,122 +20,61 @@ struct Recorder {
 
 Recorder recorder;
 
-struct NamedValue {
-    GLenum value;
-    const char* name;
-};
-
-#define NAMED(value)                                                                               \
-    {                                                                                              \
-        value, #value                                                                              \
-    }
-
-// Enumerants whose value means one thing wherever it is passed.
-constexpr NamedValue enumerants[] = {
-    NAMED(GL_TEXTURE_2D),
-    NAMED(GL_BLEND),
-    NAMED(GL_DEPTH_TEST),
-    NAMED(GL_LIGHTING),
-    NAMED(GL_MODELVIEW),
-    NAMED(GL_PROJECTION),
-    NAMED(GL_TEXTURE_MAG_FILTER),
-    NAMED(GL_TEXTURE_MIN_FILTER),
-    NAMED(GL_TEXTURE_WRAP_S),
-    NAMED(GL_TEXTURE_WRAP_T),
-    NAMED(GL_TEXTURE_ENV),
-    NAMED(GL_TEXTURE_ENV_MODE),
-    NAMED(GL_TEXTURE_ENV_COLOR),
-    NAMED(GL_NEAREST),
-    NAMED(GL_LINEAR),
-    NAMED(GL_NEAREST_MIPMAP_NEAREST),
-    NAMED(GL_LINEAR_MIPMAP_NEAREST),
-    NAMED(GL_NEAREST_MIPMAP_LINEAR),
-    NAMED(GL_LINEAR_MIPMAP_LINEAR),
-    NAMED(GL_CLAMP),
-    NAMED(GL_REPEAT),
-    NAMED(GL_CLAMP_TO_EDGE),
-    NAMED(GL_REPLACE),
-    NAMED(GL_MODULATE),
-    NAMED(GL_DECAL),
-    NAMED(GL_SRC_COLOR),
-    NAMED(GL_ONE_MINUS_SRC_COLOR),
-    NAMED(GL_SRC_ALPHA),
-    NAMED(GL_ONE_MINUS_SRC_ALPHA),
-    NAMED(GL_DST_ALPHA),
-    NAMED(GL_ONE_MINUS_DST_ALPHA),
-    NAMED(GL_DST_COLOR),
-    NAMED(GL_ONE_MINUS_DST_COLOR),
-    NAMED(GL_SRC_ALPHA_SATURATE),
-    NAMED(GL_BLEND_SRC),
-    NAMED(GL_BLEND_DST),
-    NAMED(GL_MAX_TEXTURE_UNITS),
-    NAMED(GL_TEXTURE0_ARB),
-    NAMED(GL_TEXTURE1_ARB),
-    NAMED(GL_TEXTURE2_ARB),
-    NAMED(GL_TEXTURE3_ARB),
-    NAMED(GL_LUMINANCE),
-    NAMED(GL_ALPHA),
-    NAMED(GL_RGB),
-    NAMED(GL_RGBA),
-    NAMED(GL_UNSIGNED_BYTE),
-    NAMED(GL_UNSIGNED_SHORT_5_6_5),
-    NAMED(GL_VENDOR),
-    NAMED(GL_EXTENSIONS),
-};
-
-// The small numbers, which mean something else in each position.
-constexpr NamedValue factors[] = {NAMED(GL_ZERO), NAMED(GL_ONE)};
-constexpr NamedValue primitives[] = {NAMED(GL_TRIANGLES), NAMED(GL_QUADS)};
-
-std::string nameIn(std::span<const NamedValue> names, GLenum value)
+std::map<GLenum, std::string> pairUp(std::initializer_list<GLenum> values, const char* list)
 {
-    for (const NamedValue& entry : names)
-        if (entry.value == value)
-            return entry.name;
+    std::map<GLenum, std::string> names;
+    std::istringstream rest(list);
+    for (const GLenum value : values)
+        std::getline(rest >> std::ws, names[value], ',');
+    return names;
+}
+
+// A list of enumerants by value and, as it is written here, by name.
+#define NAMES(...) pairUp({__VA_ARGS__}, #__VA_ARGS__)
+
+// No two of those that are recorded share a value.
+const std::map<GLenum, std::string> enumerants = NAMES(
+    GL_ZERO, GL_ONE, GL_TRIANGLES, GL_QUADS, GL_TEXTURE_2D, GL_BLEND, GL_DEPTH_TEST, GL_LIGHTING,
+    GL_MODELVIEW, GL_PROJECTION, GL_TEXTURE_MAG_FILTER, GL_TEXTURE_MIN_FILTER, GL_TEXTURE_WRAP_S,
+    GL_TEXTURE_WRAP_T, GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, GL_TEXTURE_ENV_COLOR, GL_NEAREST,
+    GL_LINEAR, GL_NEAREST_MIPMAP_NEAREST, GL_LINEAR_MIPMAP_NEAREST, GL_NEAREST_MIPMAP_LINEAR,
+    GL_LINEAR_MIPMAP_LINEAR, GL_CLAMP, GL_REPEAT, GL_CLAMP_TO_EDGE, GL_REPLACE, GL_MODULATE,
+    GL_DECAL, GL_SRC_COLOR, GL_ONE_MINUS_SRC_COLOR, GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA,
+    GL_DST_ALPHA, GL_ONE_MINUS_DST_ALPHA, GL_DST_COLOR, GL_ONE_MINUS_DST_COLOR,
+    GL_SRC_ALPHA_SATURATE, GL_BLEND_SRC, GL_BLEND_DST, GL_MAX_TEXTURE_UNITS, GL_TEXTURE0_ARB,
+    GL_TEXTURE1_ARB, GL_TEXTURE2_ARB, GL_TEXTURE3_ARB, GL_LUMINANCE, GL_ALPHA, GL_RGB, GL_RGBA,
+    GL_UNSIGNED_BYTE, GL_UNSIGNED_SHORT_5_6_5, GL_VENDOR, GL_EXTENSIONS);
+
+std::string hexadecimal(GLenum value, int digits)
+{
     char text[16];
-    std::snprintf(text, sizeof text, "0x%04x", value);
+    std::snprintf(text, sizeof text, "0x%0*x", digits, value);
     return text;
 }
 
 std::string nameOf(GLenum value)
 {
-    return nameIn(enumerants, value);
+    const auto found = enumerants.find(value);
+    return found == enumerants.end() ? hexadecimal(value, 4) : found->second;
 }
 
-std::string nameOfFactor(GLenum value)
-{
-    return value <= 1 ? nameIn(factors, value) : nameOf(value);
-}
-
-std::string nameOfParameter(GLint value)
+std::string nameOf(GLint value)
 {
     return nameOf(static_cast<GLenum>(value));
 }
 
-std::string number(double value)
+std::string listOf(const GLfloat* values, int count)
 {
-    char text[32];
-    std::snprintf(text, sizeof text, "%g", value);
-    return text;
-}
-
-std::string numbers(const GLfloat* values, int count)
-{
-    std::string text;
+    std::ostringstream text;
     for (int i = 0; i < count; ++i)
-        text += (i == 0 ? "" : ", ") + number(values[i]);
-    return text;
+        text << (i == 0 ? "" : ", ") << values[i];
+    return text.str();
 }
 
-void record(const char* function, std::initializer_list<std::string> arguments)
+template <typename... Parameters>
+void record(const char* function, const Parameters&... parameters)
 {
-    std::string line = std::string(function) + "(";
-    const char* separator = "";
-    for (const std::string& argument : arguments) {
-        line += separator + argument;
-        separator = ", ";
-    }
-    recorder.calls.push_back(line + ")");
+    recorder.calls.push_back(callText(function, parameters...));
 }
 
 std::size_t bytesPerPixel(GLenum format, GLenum type)
@@ -148,7 +84,7 @@ std::size_t bytesPerPixel(GLenum format, GLenum type)
     return format == GL_RGBA ? 4 : format == GL_RGB ? 3 : 1;
 }
 
-std::string takePixels(GLsizei width, GLsizei height, GLenum format, GLenum type,
+const char* takePixels(GLsizei width, GLsizei height, GLenum format, GLenum type,
                        const void* pixels)
 {
     recorder.pixels.clear();
@@ -160,12 +96,6 @@ std::string takePixels(GLsizei width, GLsizei height, GLenum format, GLenum type
     for (GLsizei y = 0; y < height; ++y, first += pitch)
         recorder.pixels.insert(recorder.pixels.end(), first, first + row);
     return "pixels";
-}
-
-void answerInteger(GLenum name, GLint* value)
-{
-    if (const auto found = recorder.integers.find(name); found != recorder.integers.end())
-        *value = found->second;
 }
 
 } // namespace
@@ -202,11 +132,6 @@ void answer(GLenum name, GLint value)
     recorder.integers[name] = value;
 }
 
-void answer(GLenum name, std::span<const GLfloat> values)
-{
-    recorder.floats[name].assign(values.begin(), values.end());
-}
-
 void setExtensions(const std::string& extensions)
 {
     recorder.extensions = extensions;
@@ -214,7 +139,7 @@ void setExtensions(const std::string& extensions)
 
 void APIENTRY activeTexture(GLenum unit)
 {
-    record("glActiveTextureARB", {nameOf(unit)});
+    record("glActiveTextureARB", nameOf(unit));
 }
 
 const std::vector<unsigned char>& uploadedPixels()
@@ -224,193 +149,84 @@ const std::vector<unsigned char>& uploadedPixels()
 
 } // namespace gl_recorder
 
+// A function of OpenGL's that does nothing but leave its line.
+#define RECORDED(function, signature, ...)                                                         \
+    void function signature                                                                        \
+    {                                                                                              \
+        record(#function __VA_OPT__(, ) __VA_ARGS__);                                              \
+    }
+
 extern "C" {
 
-void glEnable(GLenum capability)
-{
-    record("glEnable", {nameOf(capability)});
-}
+RECORDED(glEnable, (GLenum capability), nameOf(capability))
+RECORDED(glDisable, (GLenum capability), nameOf(capability))
+RECORDED(glBlendFunc, (GLenum source, GLenum target), nameOf(source), nameOf(target))
+RECORDED(glClear, (GLbitfield mask), mask)
+RECORDED(glPushAttrib, (GLbitfield mask), hexadecimal(mask, 8))
+RECORDED(glPopAttrib, ())
+RECORDED(glMatrixMode, (GLenum mode), nameOf(mode))
+RECORDED(glPushMatrix, ())
+RECORDED(glPopMatrix, ())
+RECORDED(glLoadIdentity, ())
+RECORDED(glLoadMatrixf, (const GLfloat* elements), listOf(elements, 16))
+RECORDED(glViewport, (GLint x, GLint y, GLsizei width, GLsizei height), x, y, width, height)
+RECORDED(glColor3f, (GLfloat red, GLfloat green, GLfloat blue), red, green, blue)
+RECORDED(glColor4f, (GLfloat r, GLfloat g, GLfloat b, GLfloat a), r, g, b, a)
+RECORDED(glColor4fv, (const GLfloat* color), listOf(color, 4))
+RECORDED(glBegin, (GLenum mode), nameOf(mode))
+RECORDED(glEnd, ())
+RECORDED(glVertex2i, (GLint x, GLint y), x, y)
+RECORDED(glVertex3f, (GLfloat x, GLfloat y, GLfloat z), x, y, z)
+RECORDED(glTexCoord2f, (GLfloat s, GLfloat t), s, t)
+RECORDED(glDeleteTextures, (GLsizei count, const GLuint* names), count, *names)
+RECORDED(glBindTexture, (GLenum target, GLuint name), nameOf(target), name)
+RECORDED(glTexParameteri, (GLenum target, GLenum name, GLint value), nameOf(target), nameOf(name),
+         nameOf(value))
+RECORDED(glTexEnvi, (GLenum target, GLenum name, GLint value), nameOf(target), nameOf(name),
+         nameOf(value))
+RECORDED(glTexEnvfv, (GLenum target, GLenum name, const GLfloat* values), nameOf(target),
+         nameOf(name), listOf(values, 4))
+RECORDED(glGetTexParameteriv, (GLenum target, GLenum name, GLint*), nameOf(target), nameOf(name))
+RECORDED(glGetTexEnviv, (GLenum target, GLenum name, GLint*), nameOf(target), nameOf(name))
+RECORDED(glGetTexEnvfv, (GLenum target, GLenum name, GLfloat*), nameOf(target), nameOf(name))
 
-void glDisable(GLenum capability)
-{
-    record("glDisable", {nameOf(capability)});
-}
-
-void glBlendFunc(GLenum source, GLenum destination)
-{
-    record("glBlendFunc", {nameOfFactor(source), nameOfFactor(destination)});
-}
-
-void glClear(GLbitfield mask)
-{
-    record("glClear", {std::to_string(mask)});
-}
-
-void glPushAttrib(GLbitfield mask)
-{
-    char text[16];
-    std::snprintf(text, sizeof text, "0x%08x", mask);
-    record("glPushAttrib", {text});
-}
-
-void glPopAttrib()
-{
-    record("glPopAttrib", {});
-}
-
-void glMatrixMode(GLenum mode)
-{
-    record("glMatrixMode", {nameOf(mode)});
-}
-
-void glPushMatrix()
-{
-    record("glPushMatrix", {});
-}
-
-void glPopMatrix()
-{
-    record("glPopMatrix", {});
-}
-
-void glLoadIdentity()
-{
-    record("glLoadIdentity", {});
-}
-
-void glLoadMatrixf(const GLfloat* elements)
-{
-    record("glLoadMatrixf", {numbers(elements, 16)});
-}
-
-void glViewport(GLint x, GLint y, GLsizei width, GLsizei height)
-{
-    record("glViewport", {number(x), number(y), number(width), number(height)});
-}
-
-void glColor3f(GLfloat red, GLfloat green, GLfloat blue)
-{
-    record("glColor3f", {number(red), number(green), number(blue)});
-}
-
-void glColor4f(GLfloat red, GLfloat green, GLfloat blue, GLfloat alpha)
-{
-    record("glColor4f", {number(red), number(green), number(blue), number(alpha)});
-}
-
-void glColor4fv(const GLfloat* color)
-{
-    record("glColor4fv", {numbers(color, 4)});
-}
-
-void glBegin(GLenum mode)
-{
-    record("glBegin", {nameIn(primitives, mode)});
-}
-
-void glEnd()
-{
-    record("glEnd", {});
-}
-
-void glVertex2i(GLint x, GLint y)
-{
-    record("glVertex2i", {number(x), number(y)});
-}
-
-void glVertex3f(GLfloat x, GLfloat y, GLfloat z)
-{
-    record("glVertex3f", {number(x), number(y), number(z)});
-}
-
-void glTexCoord2f(GLfloat s, GLfloat t)
-{
-    record("glTexCoord2f", {number(s), number(t)});
-}
-
-void glGenTextures(GLsizei count, GLuint* names)
-{
-    record("glGenTextures", {number(count)});
-    for (GLsizei i = 0; i < count; ++i)
-        names[i] = ++recorder.lastTextureName;
-}
-
-void glDeleteTextures(GLsizei count, const GLuint* names)
-{
-    record("glDeleteTextures", {number(count), number(*names)});
-}
-
-void glBindTexture(GLenum target, GLuint name)
-{
-    record("glBindTexture", {nameOf(target), number(name)});
-}
-
-void glTexImage2D(GLenum target, GLint level, GLint internalFormat, GLsizei width, GLsizei height,
-                  GLint border, GLenum format, GLenum type, const void* pixels)
-{
-    record("glTexImage2D", {nameOf(target), number(level), nameOfParameter(internalFormat),
-                            number(width), number(height), number(border), nameOf(format),
-                            nameOf(type), takePixels(width, height, format, type, pixels)});
-}
+RECORDED(glTexImage2D,
+         (GLenum target, GLint level, GLint internalFormat, GLsizei width, GLsizei height,
+          GLint border, GLenum format, GLenum type, const void* pixels),
+         nameOf(target), level, nameOf(internalFormat), width, height, border, nameOf(format),
+         nameOf(type), takePixels(width, height, format, type, pixels))
 
 GLint gluBuild2DMipmaps(GLenum target, GLint internalFormat, GLsizei width, GLsizei height,
                         GLenum format, GLenum type, const void* pixels)
 {
-    record("gluBuild2DMipmaps",
-           {nameOf(target), nameOfParameter(internalFormat), number(width), number(height),
-            nameOf(format), nameOf(type), takePixels(width, height, format, type, pixels)});
+    record("gluBuild2DMipmaps", nameOf(target), nameOf(internalFormat), width, height,
+           nameOf(format), nameOf(type), takePixels(width, height, format, type, pixels));
     return 0;
 }
 
-void glTexParameteri(GLenum target, GLenum name, GLint value)
+void glGenTextures(GLsizei count, GLuint* names)
 {
-    record("glTexParameteri", {nameOf(target), nameOf(name), nameOfParameter(value)});
-}
-
-void glTexEnvi(GLenum target, GLenum name, GLint value)
-{
-    record("glTexEnvi", {nameOf(target), nameOf(name), nameOfParameter(value)});
-}
-
-void glTexEnvfv(GLenum target, GLenum name, const GLfloat* values)
-{
-    record("glTexEnvfv", {nameOf(target), nameOf(name), numbers(values, 4)});
-}
-
-void glGetTexParameteriv(GLenum target, GLenum name, GLint* value)
-{
-    record("glGetTexParameteriv", {nameOf(target), nameOf(name)});
-    answerInteger(name, value);
-}
-
-void glGetTexEnviv(GLenum target, GLenum name, GLint* value)
-{
-    record("glGetTexEnviv", {nameOf(target), nameOf(name)});
-    answerInteger(name, value);
-}
-
-void glGetTexEnvfv(GLenum target, GLenum name, GLfloat* values)
-{
-    record("glGetTexEnvfv", {nameOf(target), nameOf(name)});
-    if (const auto found = recorder.floats.find(name); found != recorder.floats.end())
-        std::memcpy(values, found->second.data(), found->second.size() * sizeof(GLfloat));
+    record("glGenTextures", count);
+    for (GLsizei i = 0; i < count; ++i)
+        names[i] = ++recorder.lastTextureName;
 }
 
 void glGetIntegerv(GLenum name, GLint* value)
 {
-    record("glGetIntegerv", {nameOf(name)});
-    answerInteger(name, value);
+    record("glGetIntegerv", nameOf(name));
+    if (const auto found = recorder.integers.find(name); found != recorder.integers.end())
+        *value = found->second;
 }
 
 const GLubyte* glGetString(GLenum name)
 {
-    record("glGetString", {nameOf(name)});
+    record("glGetString", nameOf(name));
     return reinterpret_cast<const GLubyte*>(recorder.extensions.c_str());
 }
 
 GLenum glGetError()
 {
-    record("glGetError", {});
+    record("glGetError");
     return std::exchange(recorder.nextError, static_cast<GLenum>(GL_NO_ERROR));
 }
 

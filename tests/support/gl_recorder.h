@@ -2,7 +2,6 @@
 
 #include "zrk/gl.h"
 
-#include <span>
 #include <string>
 #include <vector>
 
@@ -24,10 +23,8 @@ void note(const std::string& line);
 /// The next `glGetError` answers `code`, those after it GL_NO_ERROR.
 void setNextError(GLenum code);
 
-/// Value or values that glGetIntegerv, glGetTexParameteriv, glGetTexEnviv (`name` their pname) and
-/// glGetTexEnvfv answer.
+/// What glGetIntegerv answers; it leaves alone what it has no answer to.
 void answer(GLenum name, GLint value);
-void answer(GLenum name, std::span<const GLfloat> values);
 
 /// What glGetString(GL_EXTENSIONS) answers; "" after `reset`.
 void setExtensions(const std::string& extensions);
@@ -35,8 +32,7 @@ void setExtensions(const std::string& extensions);
 /// Stands in for the multitexture extension's entry point: "glActiveTextureARB(GL_TEXTURE1_ARB)".
 void APIENTRY activeTexture(GLenum unit);
 
-/// The bytes last handed to glTexImage2D or gluBuild2DMipmaps, `bytesPerPixel` by what the format
-/// says.
+/// The bytes last handed to glTexImage2D or gluBuild2DMipmaps, without the padding of their rows.
 const std::vector<unsigned char>& uploadedPixels();
 
 } // namespace gl_recorder

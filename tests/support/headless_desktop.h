@@ -2,7 +2,6 @@
 
 #include "platform/desktop.h"
 
-#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -14,14 +13,11 @@ namespace headless_desktop {
 /// A desktop of 1024 x 768 with the pointer at (0, 0), on which nothing has happened yet.
 void reset();
 
-void setSize(platform::desktop::Size size);
 void setPointer(POINT position);
 
-/// Happens to the newest window, after all that was played before.
-void play(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
-
-/// The same for the mouse, at a place on the desktop.
-void playMouse(UINT message, POINT pointer);
+/// Happens to the newest window, or to the first one to come, after all that was played before; a
+/// mouse message at `pointer` on the desktop. Message 0 is a pause: nothing waits for once.
+void play(UINT message, WPARAM wParam = 0, LPARAM lParam = 0, POINT pointer = {});
 
 /// From now on requests of this name fail. They are kept all the same.
 void fail(const std::string& name);
@@ -29,8 +25,5 @@ void fail(const std::string& name);
 /// The requests since `reset` or the last `takeRequests`, in order. `nextMessage` is not among
 /// them.
 std::vector<std::string> takeRequests();
-
-/// How many windows and contexts were made and not yet destroyed.
-std::size_t thingsLeft();
 
 } // namespace headless_desktop

@@ -47,15 +47,6 @@ private:
         return sum;
     }
 
-    std::uint8_t caseOf(const CornerValues& values) const
-    {
-        unsigned index = 0;
-        for (unsigned corner = 0; corner < 8; ++corner)
-            if (!(values[corner] >= threshold))
-                index += 1u << corner;
-        return static_cast<std::uint8_t>(index);
-    }
-
     void subdivide(const BoundingBox& box, const CornerValues& values, std::uint32_t depth,
                    std::uint8_t visibility)
     {
@@ -90,7 +81,7 @@ private:
     void visitChild(const BoundingBox& box, const CornerValues& values, std::uint32_t depth,
                     std::uint8_t inherited)
     {
-        if (caseOf(values) == 0)
+        if (caseIndexOf(values, threshold) == 0)
             return;
         testedBox.copyExtent(box);
         const std::uint8_t visibility = viewFrustum.classifyBox(testedBox, inherited);
@@ -102,7 +93,7 @@ private:
 
     void polygonizeLeaf(const BoundingBox& box, const CornerValues& values) const
     {
-        const std::uint8_t caseIndex = caseOf(values);
+        const std::uint8_t caseIndex = caseIndexOf(values, threshold);
         if (edgeTable[caseIndex] == 0)
             return;
         glBegin(GL_TRIANGLES);

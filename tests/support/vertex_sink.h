@@ -10,8 +10,6 @@ namespace vertex_sink {
 struct Vertex {
     unsigned leaf;
     float s, t, x, y, z;
-
-    bool operator==(const Vertex&) const = default;
 };
 
 /// Keeps what is sent from now on; otherwise it is dropped.
