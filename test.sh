@@ -27,6 +27,14 @@ for preset in release sanitize; do
     ctest --preset "$preset" --no-tests=error -j 2
 done
 
+step "hosts"
+scripts/try_hosts.sh
+
+step "package"
+cpack --config build/release/CPackConfig.cmake -B build/package >build/package.log 2>&1 ||
+    { cat build/package.log; stop "no package"; }
+lintian --allow-root --fail-on error build/package/*.deb
+
 step "clang-tidy"
 run-clang-tidy -quiet -p build/release -j "$(nproc)" >build/clang-tidy.log 2>&1 ||
     { grep -E '(error|warning):' build/clang-tidy.log; stop "clang-tidy objects"; }

@@ -7,8 +7,10 @@
 #include "tests/support/surface_world.h"
 #include "zrk/shaders/shader.h"
 
-#include <array>
 #include <benchmark/benchmark.h>
+
+#include <array>
+#include <string>
 
 namespace {
 
@@ -32,6 +34,7 @@ private:
     zrk::Shader shader;
 };
 
+/// One iteration is one frame, of each of the surfaces in turn.
 template <typename Draw>
 void drawFrames(benchmark::State& state, bool wholeRegion, Draw draw)
 {
@@ -40,11 +43,9 @@ void drawFrames(benchmark::State& state, bool wholeRegion, Draw draw)
     else
         surface_world::seeWindow(800.0f / 600.0f);
     Frames frames(state.range(0));
-    for (auto _ : state)
-        for (MetaballSurface& surface : frames.surfaces)
-            draw(surface);
-    state.counters["frame"] = benchmark::Counter(
-        frameCount, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+    std::uint32_t frame = 0;
+    for ([[maybe_unused]] auto _ : state)
+        draw(frames.surfaces[frame++ % frameCount]);
 }
 
 void drawOurs(MetaballSurface& surface)
@@ -52,17 +53,12 @@ void drawOurs(MetaballSurface& surface)
     surface.polygonizeAndDraw();
 }
 
-void depths(benchmark::internal::Benchmark* benchmark)
-{
-    benchmark->DenseRange(4, 8)->Unit(benchmark::kMillisecond);
-}
-
 void fieldSample(benchmark::State& state)
 {
     MetaballSurface surface;
     surface_world::setUp(surface, 1);
     Vec3 p(100, 200, -300);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(p);
         benchmark::DoNotOptimize(surface.fieldAt(p));
     }
@@ -72,18 +68,34 @@ void boxTest(benchmark::State& state)
 {
     surface_world::seeWindow(800.0f / 600.0f);
     BoundingBox box({-75, 225, 0}, {0, 300, 75});
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(box);
         benchmark::DoNotOptimize(viewFrustum.classifyBox(box, 0));
     }
 }
 
+/// Whole rounds of the frames, and about as long at every depth.
+template <typename Draw>
+void measure(const char* name, int depth, bool wholeRegion, Draw draw)
+{
+    benchmark::RegisterBenchmark(name, drawFrames<Draw>, wholeRegion, draw)
+        ->Arg(depth)
+        ->Iterations(benchmark::IterationCount{frameCount} << 2 * (8 - depth))
+        ->Unit(benchmark::kMicrosecond);
+}
+
 } // namespace
 
-BENCHMARK(fieldSample);
-BENCHMARK(boxTest);
-BENCHMARK_CAPTURE(drawFrames, literal_in_view, false, drawLiterally)->Apply(depths);
-BENCHMARK_CAPTURE(drawFrames, ours_in_view, false, drawOurs)->Apply(depths);
-BENCHMARK_CAPTURE(drawFrames, literal_whole, true, drawLiterally)->Apply(depths);
-BENCHMARK_CAPTURE(drawFrames, ours_whole, true, drawOurs)->Apply(depths);
-BENCHMARK_MAIN();
+int main(int argumentCount, char** arguments)
+{
+    benchmark::Initialize(&argumentCount, arguments);
+    benchmark::RegisterBenchmark("fieldSample", fieldSample);
+    benchmark::RegisterBenchmark("boxTest", boxTest);
+    for (int depth = 4; depth <= 8; ++depth) {
+        measure("drawFrames/literal_in_view", depth, false, drawLiterally);
+        measure("drawFrames/ours_in_view", depth, false, drawOurs);
+        measure("drawFrames/literal_whole", depth, true, drawLiterally);
+        measure("drawFrames/ours_whole", depth, true, drawOurs);
+    }
+    benchmark::RunSpecifiedBenchmarks();
+}

@@ -21,12 +21,8 @@ constexpr platform::desktop::Size size{1024, 768};
 constexpr GLuint windowsOwn = 0;
 constexpr int framesPerRun = 128; // two rounds of the caustics
 
-GLuint drawTarget()
-{
-    GLint bound = 0;
-    glGetIntegerv(GL_DRAW_FRAMEBUFFER_BINDING, &bound);
-    return static_cast<GLuint>(bound);
-}
+constinit platform::x11::BackBuffer picture;
+constinit GLuint drawTarget = windowsOwn; // the picture's, once it is made
 
 /// Draws the same frames whatever ran before; `show` brings each one to the screen. The port's
 /// pace is left out: it would hide every difference.
@@ -36,7 +32,7 @@ void drawFrames(benchmark::State& state, GLuint target, Show show)
     glBindFramebuffer(GL_FRAMEBUFFER, target);
     animationTime = 0.0f;
     frameCounter = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         benchmark::DoNotOptimize(drawFrame());
         show();
     }
@@ -52,30 +48,31 @@ void frameOnWindowsBuffer(benchmark::State& state)
     drawFrames(state, windowsOwn, swap);
 }
 
-void frameOnBackBuffer(benchmark::State& state, const platform::x11::BackBuffer& picture,
-                       GLuint target)
+void frameOnBackBuffer(benchmark::State& state)
 {
-    drawFrames(state, target, [&] {
+    drawFrames(state, drawTarget, [] {
         picture.present();
         swap();
     });
 }
 
-void copyToWindow(benchmark::State& state, const platform::x11::BackBuffer& picture)
+void copyToWindow(benchmark::State& state)
 {
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         picture.present();
         glFinish();
     }
 }
 
-benchmark::internal::Benchmark* perFrame(benchmark::internal::Benchmark* bench)
+void perFrame(benchmark::internal::Benchmark* bench)
 {
-    return bench->Iterations(framesPerRun)
-        ->Unit(benchmark::kMillisecond)
-        ->MeasureProcessCPUTime() // the driver draws in threads of its own
-        ->UseRealTime();
+    bench->Iterations(framesPerRun)->Unit(benchmark::kMillisecond)->UseRealTime();
+    bench->MeasureProcessCPUTime(); // the driver draws in threads of its own
 }
+
+BENCHMARK(frameOnWindowsBuffer)->Apply(perFrame);
+BENCHMARK(frameOnBackBuffer)->Apply(perFrame);
+BENCHMARK(copyToWindow)->Apply(perFrame);
 
 } // namespace
 
@@ -84,14 +81,12 @@ int main(int argumentCount, char** arguments)
     benchmark::Initialize(&argumentCount, arguments);
     setenv("QUAZO_WINDOWS_DIRECTORY", QUAZO_BENCH_DATA, 0);
     const VirtualDisplay display;
-    platform::x11::BackBuffer picture;
     if (!openGlWindow("swap_bench", size.width, size.height, 32) || !picture.create(size, GL_RGB16))
         return 1;
-    const GLuint target = drawTarget();
+    GLint bound = 0;
+    glGetIntegerv(GL_DRAW_FRAMEBUFFER_BINDING, &bound);
+    drawTarget = static_cast<GLuint>(bound);
     startScene();
-    perFrame(benchmark::RegisterBenchmark("frameOnWindowsBuffer", frameOnWindowsBuffer));
-    perFrame(benchmark::RegisterBenchmark("frameOnBackBuffer", frameOnBackBuffer, picture, target));
-    perFrame(benchmark::RegisterBenchmark("copyToWindow", copyToWindow, picture));
     benchmark::RunSpecifiedBenchmarks();
     closeGlWindow();
     platform::desktop::disconnect();
