@@ -1,105 +1,262 @@
 #include "app/scene.h"
 #include "app/shell_state.h"
-#include "platform/win32.h"
-#include "tests/app/fresh_shell.h"
+#include "app/window_procedure.h"
+#include "surface/metaball_surface.h"
+#include "tests/support/gl_recorder.h"
 #include "tests/support/headless_desktop.h"
+#include "tests/support/temporary_directory.h"
 #include "zrk/library_data.h"
-#include "zrk/shaders/shader_layer.h"
+#include "zrk/renderer.h"
+#include "zrk/shaders/blend_layer.h"
+#include "zrk/shaders/texture_units.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdio>
-#include <cstdlib>
+#include <cmath>
 #include <memory>
-#include <string>
+#include <span>
+
+using headless_desktop::play;
 
 namespace {
 
-constexpr const char* oneShader = "only\n{\nblend: one, one\n}\n";
+std::string failing; // a call that no desktop makes fail
+HWND newestWindow = nullptr;
 
-int runWith(std::string commandLine)
+std::string joined(const std::vector<std::string>& lines)
 {
-    return WinMain(nullptr, nullptr, commandLine.data(), SW_SHOW);
+    std::string text;
+    for (const std::string& line : lines)
+        text += line + "; ";
+    return text;
 }
 
-// The last of the program's objects to go tells what happened before it.
-struct LastLayer : zrk::ShaderLayer {
-    ~LastLayer() override { std::fprintf(stderr, "%slayer deleted", glCalls().c_str()); }
-    void apply() override {}
-    void reapply() override {}
-    void readBack() override {}
-    void toText(zrk::String& /*out*/) const override {}
-    void write(std::FILE* /*out*/) const override {}
-    void resolve(const zrk::TexturePool& /*pool*/) override {}
+// The program on a headless desktop, with recorded OpenGL and three shaders, each of one texture.
+class Shell : public testing::Test {
+protected:
+    Shell()
+    {
+        const std::string rest = ", linear, linear, clamp, clamp, modulate, <0, 0, 0, 0>\n}\n";
+        windows.write("###quazo!_data###/caustics.qvd", "textures\nshaders\n");
+        windows.write("textures", "3\ndot.ppm\ndot.ppm\ndot.ppm\n");
+        windows.write("dot.ppm", "P6 1 1 255\nabc");
+        windows.write("shaders", "a\n{\ntexture: 0" + rest + "b\n{\ntexture: 1" + rest +
+                                     "c\n{\ntexture: 2" + rest);
+        setenv("QUAZO_WINDOWS_DIRECTORY", windows.path.c_str(), 1);
+        restart();
+    }
+
+    static void restart()
+    {
+        std::destroy_at(&zrk::libraryData);
+        std::construct_at(&zrk::libraryData);
+        std::destroy_at(&zrk::renderer);
+        std::construct_at(&zrk::renderer);
+        zrk::glCaches = {};
+        headless_desktop::reset();
+        gl_recorder::reset();
+        cursorTravel = {};
+        keyDown = {};
+        windowActive = true;
+        animationTime = 0.0f;
+        frameCounter = 0;
+        windowWidth = 800;
+        windowHeight = 600;
+    }
+
+    // Ends by Escape, a frame after what was played; how many frames were drawn in all.
+    static std::uint32_t run(std::string commandLine = "/s")
+    {
+        play(0);
+        play(WM_KEYDOWN, VK_ESCAPE);
+        EXPECT_EQ(WinMain(nullptr, nullptr, commandLine.data(), SW_SHOW), 0);
+        return frameCounter;
+    }
+
+    const TemporaryDirectory windows;
 };
-
-[[noreturn]] void runAndEnd()
-{
-    const int status = runWith("/s");
-    zrk::libraryData.shaders[0].addLayer(std::make_unique<LastLayer>());
-    glCalls();
-    std::exit(status);
-}
 
 } // namespace
 
-TEST(WinMain, ShowsTheAboutBoxOrQuitsSilentlyOrCannotOpenTheWindow)
+extern "C" {
+
+HDC __real__Z5GetDCP6HWND__(HWND window);
+HDC __wrap__Z5GetDCP6HWND__(HWND window)
 {
-    const FreshShell shell;
-    EXPECT_EQ(runWith("/c:1234"), 0);
-    EXPECT_THAT(requests(),
-                testing::MatchesRegex("messageBox.\"quazo! screen saver v1e-32 beta by the quazo! "
-                                      "makers\n[^\n]*README[^\n]*\", \"\", 48.; "));
-    EXPECT_EQ(runWith("/p 1234"), 0);
-    EXPECT_EQ(requests(), "");
+    const HDC real = __real__Z5GetDCP6HWND__(failing == "ReleaseDC" ? nullptr : window);
+    newestWindow = window == nullptr ? newestWindow : window;
+    return failing == "GetDC" ? nullptr : real;
+}
+
+void __wrap_SDL_Quit()
+{
+    gl_recorder::note("SDL_Quit");
+}
+
+} // extern "C"
+
+TEST_F(Shell, LetsTheFirstDecidingLetterDecide)
+{
+    const std::string about = "^messageBox.\"quazo! screen saver v1e-32 beta by the quazo! makers\n"
+                              "[^\n]*README[^\n]*\", \"\", 48.; $";
+    const std::string started = "^createWindow.*; $";
+    const std::pair<const char*, std::string> cases[] = {
+        {"", about},     {"/c", about},   {"/c:1234", about}, {"cs", about},
+        {"/s", started}, {"/S", started}, {"sc", started},    {"xys", started},
+        {"/C", "^$"},    {"/a", "^$"},    {"/p 1234", "^$"},  {"/C -s", started}};
     headless_desktop::fail("createWindow");
-    EXPECT_EQ(runWith("/s"), 0);
-    EXPECT_THAT(requests(), testing::EndsWith("\"Window Creation Error.\", \"ERROR\", 48); "));
+    for (const auto& [commandLine, requested] : cases) {
+        run(commandLine);
+        EXPECT_THAT(joined(headless_desktop::takeRequests()), testing::ContainsRegex(requested))
+            << commandLine;
+    }
 }
 
-TEST(WinMain, DrawsUntilEscapeAndMindsTabAndMinimising)
+TEST_F(Shell, OpensCoversDrawsAndClosesInOrder)
 {
-    FreshShell shell;
-    shell.makeData(oneShader);
-    shell.onSwap = [](int swaps) {
-        constexpr float clocks[] = {0.01f, 0.02f, 0.01f, 0.0f};
-        constexpr std::uint32_t frames[] = {1, 2, 3, 3};
-        ASSERT_LE(swaps, 4);
-        EXPECT_EQ(animationTime, clocks[swaps - 1]) << swaps;
-        EXPECT_EQ(frameCounter, frames[swaps - 1]) << swaps;
-        if (swaps == 1)
-            headless_desktop::play(WM_KEYDOWN, VK_TAB); // held to the end
-        if (swaps == 3)
-            headless_desktop::play(WM_ACTIVATE, 0x10000);
-        if (swaps == 4)
-            headless_desktop::play(WM_KEYDOWN, VK_ESCAPE);
-    };
-    EXPECT_EQ(runWith("/s"), 0);
-    EXPECT_EQ(frameCounter, 3u);
-    EXPECT_EQ(headless_desktop::thingsLeft(), 0u);
+    gl_recorder::setExtensions("GL_ARB_multitexture_more  GL_ARB_multitexture GL_EXT_fog");
+    gl_recorder::answer(GL_MAX_TEXTURE_UNITS, 2);
+    play(0);
+    play(WM_KEYDOWN, VK_TAB); // held to the end
+    play(0);
+    play(0);
+    play(WM_ACTIVATE, 0x10000); // minimised
+    play(WM_SIZE, SIZE_RESTORED, MAKELPARAM(40000, 30000));
+    EXPECT_EQ(run(), 3u);
+    EXPECT_EQ(joined(headless_desktop::takeRequests()),
+              "createWindow(\"quazo! screen saver v1e-32 beta\", 0, 0, 800, 600); "
+              "showPointer(1, hidden); choosePixelFormat(1, 32); setPixelFormat(1, 1); "
+              "createContext(1); makeCurrent(1, 1); showWindow(1); raiseWindow(1); "
+              "focusWindow(1); setScreenSaverRunning(true); size(); size(); "
+              "placeWindow(1, 0, 0, 1024, 767, topmost); glProcedure(glActiveTextureARB); "
+              "swapBuffers(1); swapBuffers(1); swapBuffers(1); swapBuffers(1); "
+              "makeCurrent(0, 0); deleteContext(1); destroyWindow(1); "
+              "setScreenSaverRunning(false); ");
+    EXPECT_EQ(animationTime, 0.0f);
+    EXPECT_EQ(windowWidth, 40000);
+    EXPECT_EQ(zrk::renderer.textureUnits, 2u);
 }
 
-TEST(WinMain, HandlesAllThatWaitsBeforeItQuits)
+TEST_F(Shell, ReportsEveryStepThatFails)
 {
-    FreshShell shell;
-    shell.makeData(oneShader);
-    shell.onSwap = [](int) {
-        headless_desktop::play(WM_CLOSE);
-        headless_desktop::play(WM_KEYDOWN, 'A');
-    };
-    EXPECT_EQ(runWith("/s"), 0);
+    const std::pair<const char*, const char*> cases[] = {
+        {"createWindow", R"(false); messageBox("Window Creation Error.", "ERROR", 48); )"},
+        {"GetDC", R"(false); messageBox("Can't Create A GL Device Context.", "ERROR", 48); )"},
+        {"choosePixelFormat", R"(messageBox("Can't Find A Suitable PixelFormat.", "ERROR", 48); )"},
+        {"setPixelFormat", R"(false); messageBox("Can't Set The PixelFormat.", "ERROR", 48); )"},
+        {"createContext", R"(messageBox("Can't Create A GL Rendering Context.", "ERROR", 48); )"},
+        {"makeCurrent", R"("Release Of DC And RC Failed.", "SHUTDOWN ERROR", 64); deleteContext)"},
+        {"makeCurrent", R"(messageBox("Can't Activate The GL Rendering Context.", "ERROR", 48); )"},
+        {"deleteContext", R"("Release Rendering Context Failed.", "SHUTDOWN ERROR", 64); destroy)"},
+        {"ReleaseDC", R"("Release Device Context Failed.", "SHUTDOWN ERROR", 64); destroy)"},
+        {"destroyWindow", R"(messageBox("Could Not Release hWnd.", "SHUTDOWN ERROR", 64); )"
+                          R"(messageBox("Could Not Unregister Class.", "SHUTDOWN ERROR", 64); )"},
+        {"", R"(messageBox("Failed To Register The Window Class.", "ERROR", 48); )"}};
+    for (const auto& [step, reported] : cases) { // the last one meets the window left before it
+        restart();
+        headless_desktop::fail(step);
+        failing = step;
+        run();
+        EXPECT_THAT(joined(headless_desktop::takeRequests()), testing::HasSubstr(reported));
+    }
+    DestroyWindow(newestWindow);
+    UnregisterClassA("OpenGL", nullptr);
+}
+
+TEST_F(Shell, QuitsWhenAskedTo)
+{
+    play(WM_CLOSE);
+    play(WM_KEYDOWN, 256); // no key
+    play(WM_KEYDOWN, 'A'); // all that waits is handled before the quit
+    EXPECT_EQ(run(), 0u);
     EXPECT_TRUE(keyDown['A']);
-    EXPECT_EQ(frameCounter, 1u);
-    EXPECT_THAT(requests(), testing::EndsWith("setScreenSaverRunning(false); "));
+    EXPECT_EQ(zrk::renderer.glActiveTextureARB, nullptr);
+    for (const UINT message :
+         {WM_CLOSE, WM_LBUTTONDOWN, WM_RBUTTONDOWN, WM_MBUTTONDOWN, WM_SYSKEYDOWN}) {
+        restart();
+        play(message, VK_F4);
+        EXPECT_EQ(run(), 0u) << message;
+    }
+    for (const LONG travel : {100, 101}) {
+        restart();
+        for (LONG step = 0; step <= travel; ++step)
+            play(WM_MOUSEMOVE, 0, 0, {900, -700 + step % 2});
+        EXPECT_EQ(run(), travel == 100 ? 2u : 0u);
+    }
 }
 
-TEST(WinMain, ObjectsGoSdlFirstThenTexturesThenLayers)
+TEST_F(Shell, LeavesItsObjectsToGoSdlFirstThenTexturesThenLayers)
 {
-    FreshShell shell;
-    shell.makeData(oneShader);
-    shell.onSwap = [](int) { headless_desktop::play(WM_KEYDOWN, VK_ESCAPE); };
+    struct LastLayer : zrk::BlendLayer {
+        ~LastLayer() override { std::fputs(joined(gl_recorder::takeCalls()).c_str(), stderr); }
+    };
+    const auto runAndEnd = [] {
+        run();
+        gl_recorder::reset();
+        zrk::libraryData.shaders[0].addLayer(std::make_unique<LastLayer>());
+        std::exit(0);
+    };
     EXPECT_EXIT(runAndEnd(), testing::ExitedWithCode(0),
-                testing::EndsWith("SDL_Quit; glDeleteTextures(1, 3); glDeleteTextures(1, 2); "
-                                  "glDeleteTextures(1, 1); layer deleted"));
+                "^SDL_Quit; glDeleteTextures.1, 3.; glDeleteTextures.1, 2.; "
+                "glDeleteTextures.1, 1.; $");
+}
+
+TEST_F(Shell, GivesTheSurfaceItsSettingsAndEveryBallAMotionOfTenDraws)
+{
+    std::srand(7);
+    startScene();
+    EXPECT_EQ(metaballSurface.depthSetting, 5u);
+    EXPECT_EQ(metaballSurface.threshold, 0.5f);
+    EXPECT_EQ(metaballSurface.region.min().y, -1200.0f);
+    EXPECT_EQ(metaballSurface.region.max().z, 1200.0f);
+    animationTime = 1.5f;
+    EXPECT_TRUE(drawFrame());
+    std::srand(7);
+    for (const Metaball& ball : std::span(metaballSurface.balls.get(), 12)) {
+        double r[10]; // amplitudes, frequencies, phases of x, y and z; the radius
+        for (double& draw : r)
+            draw = std::rand() % 32768 / 32768.0;
+        const auto angle = [&](int axis) {
+            return (1.5 + r[axis + 6] * 6.283185307179586) * (r[axis + 3] * 4 - 2);
+        };
+        EXPECT_NEAR(ball.centre.x, r[0] * 800 * std::sin(angle(0)), 0.01);
+        EXPECT_NEAR(ball.centre.y, r[1] * 800 * std::cos(angle(1)), 0.01);
+        EXPECT_NEAR(ball.centre.z, r[2] * 800 * std::sin(angle(2)), 0.01);
+        EXPECT_FLOAT_EQ(ball.radius, static_cast<float>(r[9] * 350 + 150));
+    }
+}
+
+TEST_F(Shell, FadesColoursAndAppliesTheShaderOfTheFrameNumber)
+{
+    startScene();
+    gl_recorder::takeCalls();
+    zrk::renderer.fadeScreen(0.1f, 0);
+    const std::string everyFrame =
+        "glEnable(GL_BLEND); glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA); " +
+        joined(gl_recorder::takeCalls()) +
+        "glDisable(GL_DEPTH_TEST); glColor3f(0.2, 0.04, 0.132); glDisable(GL_BLEND); ";
+    const std::pair<std::uint32_t, const char*> cases[] = {
+        {0, "glEnable(GL_TEXTURE_2D); glBindTexture(GL_TEXTURE_2D, 1); glTexParameteri("},
+        {1, "glBegin(GL_TRIANGLES); "},
+        {2, "glBindTexture(GL_TEXTURE_2D, 2); glTexParameteri("},
+        {63, "glBegin(GL_TRIANGLES); "}, // 31, of three shaders
+        {64, "glBindTexture(GL_TEXTURE_2D, 1); glBegin(GL_TRIANGLES); "}};
+    for (const auto& [frame, calls] : cases) {
+        animationTime = 6.2831853f; // a quarter of it is pi / 2: red is at its height
+        frameCounter = frame;
+        EXPECT_TRUE(drawFrame());
+        EXPECT_TRUE(joined(gl_recorder::takeCalls()).starts_with(everyFrame + calls)) << frame;
+    }
+}
+
+TEST_F(Shell, EndsWithABoxWithoutAShader)
+{
+    windows.write("shaders", "");
+    const auto startTelling = [] {
+        std::atexit([] { std::fputs(headless_desktop::takeRequests()[0].c_str(), stderr); });
+        startScene();
+    };
+    EXPECT_EXIT(startTelling(), testing::ExitedWithCode(1),
+                "^messageBox.\"erreur : datas untrouvable\", \"\", 48.$");
 }

@@ -1,102 +1,54 @@
 #include "tests/platform/test_window.h"
-#include "tests/support/headless_desktop.h"
 
-#include <array>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-TEST(Window, TellsEverySizeOnce)
+TEST_F(TestWindow, IsToldEverySizeOnce)
 {
-    const TestWindow window;
-    EXPECT_THAT(takeSent(), ElementsAre("WM_SIZE 800 600"));
-    ShowWindow(window.handle, SW_SHOW);
-    EXPECT_THAT(takeSent(), ElementsAre("WM_ACTIVATE 1", "WM_SIZE 800 600"));
-    ShowWindow(window.handle, SW_SHOW);
+    const Sent asked{WM_SIZE, MAKELPARAM(1024, 767)};
+    const Sent given{WM_SIZE, MAKELPARAM(1024, 768)};
+    const HWND second = create();
+    EXPECT_THAT(takeSent(), ElementsAre(Sent{WM_SIZE, MAKELPARAM(800, 600)}));
+    ShowWindow(second, SW_SHOW);
+    ShowWindow(second, SW_SHOW);
+    EXPECT_THAT(takeSent(), ElementsAre(Sent{WM_ACTIVATE, 1}, Sent{WM_SIZE, MAKELPARAM(800, 600)}));
+    EXPECT_TRUE(SetWindowPos(second, HWND_TOPMOST, 0, 0, 1024, 767, 0));
+    headless_desktop::play(WM_SIZE, SIZE_RESTORED, asked.second);
+    headless_desktop::play(WM_SIZE, SIZE_RESTORED, given.second);
+    EXPECT_THAT(takeSent(), ElementsAre(asked, given));
+    headless_desktop::fail("placeWindow");
+    EXPECT_FALSE(SetWindowPos(second, HWND_TOPMOST, 0, 0, 1, 1, 0));
     EXPECT_THAT(takeSent(), IsEmpty());
-
-    EXPECT_TRUE(SetWindowPos(window.handle, HWND_TOPMOST, 0, 0, 1024, 767, 0));
-    EXPECT_THAT(takeSent(), ElementsAre("WM_SIZE 1024 767"));
-    headless_desktop::play(WM_SIZE, SIZE_RESTORED, MAKELPARAM(1024, 767));
-    headless_desktop::play(WM_SIZE, SIZE_RESTORED, MAKELPARAM(1024, 768));
-    pump();
-    EXPECT_THAT(takeSent(), ElementsAre("WM_SIZE 1024 768"));
+    DestroyWindow(second);
 }
 
-TEST(Window, MayBeDestroyedByItsOwnProcedure)
+TEST_F(TestWindow, IsUnknownOnceDestroyed)
 {
-    const TestWindow window(
-        [](HWND handle, UINT, WPARAM, LPARAM) -> LRESULT { return DestroyWindow(handle); });
-    EXPECT_EQ(window.handle, nullptr);
-    EXPECT_EQ(headless_desktop::thingsLeft(), 0U);
-}
-
-TEST(Window, IsUnknownOnceDestroyed)
-{
-    const TestWindow window;
-    const HDC destroyedContext = GetDC(window.handle);
-    const HGLRC context = wglCreateContext(destroyedContext);
+    const HDC dc = GetDC(window);
+    const HGLRC context = wglCreateContext(dc);
     EXPECT_TRUE(wglDeleteContext(context));
-    EXPECT_TRUE(DestroyWindow(window.handle));
+    EXPECT_TRUE(DestroyWindow(window));
     headless_desktop::takeRequests();
-    takeSent();
-
-    const PIXELFORMATDESCRIPTOR descriptor{};
-    for (const HWND handle : {window.handle, HWND{}})
-        EXPECT_THAT(
-            (std::array{DestroyWindow(handle), ShowWindow(handle, SW_SHOW),
-                        SetForegroundWindow(handle),
-                        SetWindowPos(handle, HWND_TOPMOST, 0, 0, 1, 1, 0),
-                        SetWindowLongA(handle, GWL_STYLE, 5), GetWindowLongA(handle, GWL_STYLE)}),
-            Each(0));
-    for (const HDC dc : {destroyedContext, GetDC(window.handle)})
-        EXPECT_THAT(
-            (std::array{ReleaseDC(window.handle, dc), GetDeviceCaps(dc, HORZRES),
-                        ChoosePixelFormat(dc, &descriptor), SetPixelFormat(dc, 1, &descriptor),
-                        SwapBuffers(dc), wglMakeCurrent(dc, context), wglDeleteContext(context),
-                        wglDeleteContext(wglCreateContext(dc))}),
-            Each(0));
-    SetFocus(window.handle);
-    DefWindowProcA(window.handle, WM_SYSKEYDOWN, VK_F4, 0);
+    const PIXELFORMATDESCRIPTOR format{};
+    for (const int result :
+         {DestroyWindow(window), ShowWindow(window, SW_SHOW), SetForegroundWindow(window),
+          SetWindowPos(window, HWND_TOPMOST, 0, 0, 1, 1, 0), SetWindowLongA(window, GWL_STYLE, 5),
+          ReleaseDC(window, dc), GetDeviceCaps(dc, HORZRES), ChoosePixelFormat(dc, &format),
+          SetPixelFormat(dc, 1, &format), SwapBuffers(dc), wglMakeCurrent(dc, context),
+          wglDeleteContext(context), wglDeleteContext(wglCreateContext(dc))})
+        EXPECT_EQ(result, 0);
+    SetFocus(window);
+    DefWindowProcA(window, WM_SYSKEYDOWN, VK_F4, 0);
     EXPECT_THAT(headless_desktop::takeRequests(), IsEmpty());
     EXPECT_THAT(takeSent(), IsEmpty());
 }
 
-TEST(WindowClass, HasItsNameToItself)
+TEST_F(TestWindow, HidesThePointerWhileTheCountIsNegative)
 {
-    const TestWindow window;
-    EXPECT_EQ(registerTestClass("TEST", TestWindow::noteMessage), 0);
-    EXPECT_EQ(registerTestClass("Other", nullptr), 0);
-    EXPECT_EQ(CreateWindowExA(0, "Other", "", 0, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr),
-              nullptr);
-    EXPECT_FALSE(UnregisterClassA("Test", nullptr)); // its window lives
-    EXPECT_FALSE(UnregisterClassA("Other", nullptr));
-}
-
-TEST(DeviceContext, BelongsToItsWindowOrToTheScreen)
-{
-    const TestWindow window;
-    const HDC own = GetDC(window.handle);
-    const HDC screen = GetDC(nullptr);
-    EXPECT_EQ(GetDC(window.handle), own);
-    EXPECT_EQ(GetDeviceCaps(screen, VERTRES), 768);
-    EXPECT_FALSE(SwapBuffers(screen));
-    EXPECT_EQ(ReleaseDC(nullptr, own), 0);
-    EXPECT_EQ(ReleaseDC(window.handle, screen), 0);
-    EXPECT_EQ(ReleaseDC(nullptr, screen), 1);
-    EXPECT_EQ(ReleaseDC(window.handle, own), 1);
-}
-
-TEST(Cursor, IsHiddenOverEveryWindowWhileTheCountIsNegative)
-{
-    const TestWindow window;
     headless_desktop::takeRequests();
     EXPECT_EQ(ShowCursor(FALSE), -1);
     EXPECT_EQ(ShowCursor(FALSE), -2);
-    const HWND second = createTestWindow();
+    const HWND second = create();
     EXPECT_EQ(ShowCursor(TRUE), -1);
     EXPECT_EQ(ShowCursor(TRUE), 0);
     DestroyWindow(second);

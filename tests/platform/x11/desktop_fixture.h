@@ -3,11 +3,12 @@
 #include <gtest/gtest.h> // before Xlib, which makes a macro of a name of its
 
 #include "platform/desktop.h"
+#include "platform/x11/display.h"
+#include "platform/x11/window_manager.h"
 #include "tests/support/user.h"
 #include "tests/support/virtual_display.h"
 
-#include <algorithm>
-#include <vector>
+#include <optional>
 
 /// A real desktop of 1024 by 768 without a window manager, the program's side of the port, and a
 /// user before the screen.
@@ -18,48 +19,41 @@ protected:
     // The port goes last but before its server, whose loss would end this process as a success.
     ~DesktopFixture() override { platform::desktop::disconnect(); }
 
-    /// Opens and shows a window as the program does.
-    platform::desktop::NativeWindow open(platform::desktop::Size client = {800, 600})
+    /// Opens and shows a window of 800 by 600 as the program does.
+    static platform::desktop::NativeWindow open()
     {
         using namespace platform::desktop;
-        const NativeWindow window = createWindow("title", 0, 0, client);
+        const NativeWindow window = createWindow("title", 0, 0, {800, 600});
         showWindow(window);
         raiseWindow(window);
         focusWindow(window);
         return window;
     }
 
-    /// The next message of this kind, whatever came before or between; its kind is 0 when none
-    /// came in time.
-    platform::desktop::Message next(UINT kind)
+    /// The next message of either kind; those before it are lost. Its kind is 0 when none came in
+    /// time.
+    static platform::desktop::Message next(UINT kind, UINT otherKind = 0)
     {
         platform::desktop::Message message;
-        User::waitUntil([&] {
-            if (!hasCome(kind))
-                return false;
-            message = *find(kind);
-            unread.erase(find(kind));
-            return true;
+        const bool hasCome = User::waitUntil([&] {
+            while (platform::desktop::nextMessage(message))
+                if (message.message == kind || message.message == otherKind)
+                    return true;
+            return false;
         });
-        return message;
+        return hasCome ? message : platform::desktop::Message{};
     }
 
-    bool hasCome(UINT kind)
+    /// Starts a window manager. The program's side is connected from here on.
+    void manage()
     {
-        for (platform::desktop::Message message; platform::desktop::nextMessage(message);)
-            unread.push_back(message);
-        return find(kind) != unread.end();
+        using namespace platform::x11;
+        manager.emplace(std::vector<std::string>{QUAZO_OPENBOX, "--sm-disable"});
+        EXPECT_TRUE(User::waitUntil([] { return managerRuns(connection()); }));
     }
 
     VirtualDisplay display{"1024x768x24"};
     User user;
-
-private:
-    std::vector<platform::desktop::Message>::iterator find(UINT kind)
-    {
-        return std::find_if(unread.begin(), unread.end(),
-                            [kind](const auto& each) { return each.message == kind; });
-    }
-
-    std::vector<platform::desktop::Message> unread;
+    Display* const server = user.connection();
+    std::optional<ChildProcess> manager;
 };

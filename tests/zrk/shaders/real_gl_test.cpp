@@ -2,140 +2,168 @@
 #include "tests/support/virtual_display.h"
 #include "tests/zrk/shaders/sample_pool.h"
 #include "zrk/renderer.h"
-#include "zrk/shaders/blend_layer.h"
-#include "zrk/shaders/multitexture_layer.h"
-#include "zrk/shaders/texture_layer.h"
 #include "zrk/shaders/texture_units.h"
+#include "zrk/textures/texture_pool.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <map>
+#include <set>
+#include <sstream>
+#include <vector>
 
 using namespace zrk;
 
 namespace {
 
+/// What OpenGL calls a place in a line, and the words that may stand there with its values.
+struct Position {
+    GLenum name;
+    const char* words;
+};
+
+constexpr Position positions[] = {
+    {GL_TEXTURE_MIN_FILTER,
+     "nearest 2600 linear 2601 nearest_mipmap_nearest 2700 linear_mipmap_nearest 2701 "
+     "nearest_mipmap_linear 2702 linear_mipmap_linear 2703"},
+    {GL_TEXTURE_MAG_FILTER, "nearest 2600 linear 2601"},
+    {GL_TEXTURE_WRAP_S, "clamp 2900 repeat 2901 clamp_to_edge 812F"},
+    {GL_TEXTURE_WRAP_T, "clamp 2900 repeat 2901 clamp_to_edge 812F"},
+    {GL_TEXTURE_ENV_MODE, "replace 1E01 modulate 2100 decal 2101 blend 0BE2"},
+    {GL_BLEND_SRC, "zero 0 one 1 src_alpha 302 one_minus_src_alpha 303 dst_alpha 304 "
+                   "one_minus_dst_alpha 305 dst_color 306 one_minus_dst_color 307 "
+                   "src_alpha_saturate 308"},
+    {GL_BLEND_DST, "zero 0 one 1 src_color 300 one_minus_src_color 301 src_alpha 302 "
+                   "one_minus_src_alpha 303 dst_alpha 304 one_minus_dst_alpha 305"},
+};
+
+std::map<std::string, GLint> wordsAt(const Position& position)
+{
+    std::map<std::string, GLint> words;
+    std::istringstream text(position.words);
+    std::string word;
+    for (GLint value = 0; text >> word >> std::hex >> value;)
+        words[word] = value;
+    return words;
+}
+
+/// The lines with `word` at a position; textures have the environment colour `color`.
+std::vector<std::string> linesWith(std::size_t position, const std::string& word,
+                                   const std::string& color)
+{
+    std::string fields[] = {"linear", "nearest", "repeat", "clamp", "decal", "one", "zero"};
+    fields[position] = word;
+    if (position >= 5)
+        return {"blend: " + fields[5] + ", " + fields[6]};
+    const std::string state = fields[0] + ", " + fields[1] + ", " + fields[2] + ", " + fields[3] +
+                              ", " + fields[4] + ", " + color;
+    return {"texture: 1, " + state, "multitexture: 2, 1, " + state + ", 0, " + state};
+}
+
+GLint current(GLenum name)
+{
+    GLint value = 0;
+    if (name == GL_BLEND_SRC || name == GL_BLEND_DST)
+        glGetIntegerv(name, &value);
+    else if (name == GL_TEXTURE_ENV_MODE)
+        glGetTexEnviv(GL_TEXTURE_ENV, name, &value);
+    else
+        glGetTexParameteriv(GL_TEXTURE_2D, name, &value);
+    return value;
+}
+
 using Pixel = std::array<GLubyte, 4>;
 
-/// Real OpenGL, and two textures: one of four colours, one of a single dim one.
-struct RealGl {
+Pixel shownPixel()
+{
+    Pixel pixel;
+    glReadPixels(32, 32, 1, 1, GL_RGBA, GL_UNSIGNED_BYTE, &pixel);
+    return pixel;
+}
+
+/// Real OpenGL of two units, and two textures of one pixel.
+struct RealGl : testing::Test {
     VirtualDisplay display;
     GlTestContext context{64, 64};
     TexturePool textures;
 
     RealGl()
     {
-        glCaches = {};
         renderer.multitextureAvailable = true;
         renderer.glActiveTextureARB = glActiveTexture;
-        renderer.textureUnits = maxStages; // OpenGL 1.3 on software has eight
+        renderer.textureUnits = 2;
+        glCaches = {};
         textures.resize(2);
-        makeTexture(0, 2,
-                    {{{255, 0, 0, 255}, {0, 255, 0, 255}, {0, 0, 255, 255}, {255, 255, 255, 255}}});
-        makeTexture(1, 1, {{{128, 255, 64, 255}}});
+        const Pixel pixels[] = {{255, 0, 255, 255}, {128, 255, 64, 255}};
+        for (std::uint32_t i = 0; i < 2; ++i) {
+            glGenTextures(1, &textures.textures[i].glName);
+            glBindTexture(GL_TEXTURE_2D, textures.textures[i].glName);
+            glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, 1, 1, 0, GL_RGBA, GL_UNSIGNED_BYTE, &pixels[i]);
+        }
     }
 
-    void makeTexture(std::uint32_t position, GLsizei size, const std::array<Pixel, 4>& pixels)
+    /// Follows the layer of `line`, which sets `name` to `value`, to OpenGL and into that of
+    /// `otherLine`, and to texts and back.
+    void expectRoundTrip(const std::string& line, GLenum name, GLint value,
+                         const std::string& otherLine)
     {
-        glGenTextures(1, &textures.textures[position].glName);
-        glBindTexture(GL_TEXTURE_2D, textures.textures[position].glName);
-        glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, size, size, 0, GL_RGBA, GL_UNSIGNED_BYTE, &pixels);
+        LoadedPool loaded = poolOf(line), other = poolOf(otherLine);
+        ASSERT_EQ(loaded.result, ShaderResult::ok) << line;
+        loaded.pool.resolve(textures);
+        other.pool.resolve(textures);
+        ShaderLayer& layer = *loaded.pool[0].layers().front();
+        layer.apply();
+        EXPECT_EQ(current(name), value) << line;
+        other.pool[0].apply();
+        layer.reapply();
+        other.pool[0].layers().front()->readBack();
+        const std::string print = output([&](std::FILE* out) { layer.write(out); });
+        for (const std::string& back :
+             {other.summary(), poolOf(textOf(layer)).summary(), poolOf(print).summary()})
+            EXPECT_EQ(back, loaded.summary());
     }
 };
 
-/// Sets what OpenGL is to answer to what a new layer has.
-void forget(ShaderLayer& layer)
-{
-    if (auto* texture = dynamic_cast<TextureLayer*>(&layer))
-        texture->state = {.glName = texture->state.glName};
-    if (auto* blend = dynamic_cast<BlendLayer*>(&layer))
-        blend->srcFactor = blend->dstFactor = GL_ZERO;
-    if (auto* several = dynamic_cast<MultitextureLayer*>(&layer))
-        for (std::uint32_t unit = 0; unit < several->stageCount; ++unit)
-            several->stages[unit].state = {.glName = several->stages[unit].state.glName};
-}
-
-/// The pixel at the middle of each quarter of the picture, from the lower left to the upper right.
-std::array<Pixel, 4> quarters()
-{
-    std::array<Pixel, 4> pixels;
-    for (int i = 0; i < 4; ++i)
-        glReadPixels(16 + i % 2 * 32, 16 + i / 2 * 32, 1, 1, GL_RGBA, GL_UNSIGNED_BYTE,
-                     &pixels[static_cast<std::size_t>(i)]);
-    return pixels;
-}
-
-/// The quarters after a square was drawn over the whole picture.
-std::array<Pixel, 4> drawn()
-{
-    glBegin(GL_QUADS);
-    for (const auto& [s, t] : {std::array{0, 0}, {1, 0}, {1, 1}, {0, 1}}) {
-        glTexCoord2i(s, t);
-        glVertex2i(2 * s - 1, 2 * t - 1);
-    }
-    glEnd();
-    return quarters();
-}
-
-std::array<Pixel, 4> all(const Pixel& pixel)
-{
-    return {pixel, pixel, pixel, pixel};
-}
-
 } // namespace
 
-TEST(RealGl, AnswersWhatEveryLayerHasSet)
+TEST_F(RealGl, HasEveryWordInItsPlaceAndNoOtherIsTaken)
 {
-    RealGl gl;
-    for (const AcceptedWord& entry : acceptedWords())
-        for (const auto set : {&ShaderLayer::apply, &ShaderLayer::reapply}) {
-            LoadedPool loaded = poolOf(entry.line());
-            loaded.pool.resolve(gl.textures);
-            ShaderLayer& layer = *loaded.pool[0].layers().front();
-            const std::string expected = textOf(layer);
-            (layer.*set)();
-            forget(layer);
-            layer.readBack();
-            EXPECT_EQ(textOf(layer), expected);
-            EXPECT_EQ(glGetError(), GLenum{GL_NO_ERROR}) << expected;
+    std::set<std::string> words{"bool", "true", "texture", "multitexture", "color", "Linear"};
+    for (const Position& position : positions)
+        for (const auto& [word, value] : wordsAt(position))
+            words.insert(word);
+    for (std::size_t i = 0; i < std::size(positions); ++i) {
+        const std::map<std::string, GLint> accepted = wordsAt(positions[i]);
+        const auto others = linesWith(i, accepted.begin()->first, "<0, 0, 0, 0>");
+        for (const std::string& word : words) {
+            const auto lines = linesWith(i, word, "<0.25, 1, 0.5, 0>");
+            for (std::size_t kind = 0; kind < lines.size(); ++kind)
+                if (accepted.contains(word))
+                    expectRoundTrip(lines[kind], positions[i].name, accepted.at(word),
+                                    others[kind]);
+                else
+                    EXPECT_EQ(poolOf(lines[kind]).result, ShaderResult::unknownParameter) << word;
         }
-}
-
-TEST(RealGl, ShowsWhatTheLayersDescribe)
-{
-    RealGl gl;
-    LoadedPool layered =
-        poolOf("multitexture: 2, 0, nearest, nearest, repeat, repeat, replace, <0, 0, 0, 0>, "
-               "1, nearest, nearest, repeat, repeat, modulate, <0, 0, 0, 0>");
-    const LoadedPool tinted = poolOf("color: <0, 0.2, 1, 1>\nblend: one, one");
-    layered.pool.resolve(gl.textures);
-    for (int frame = 0; frame < 2; ++frame) {
-        layered.pool[0].apply();
-        // Red, green, blue and white, each times (128, 255, 64) / 255.
-        const std::array<Pixel, 4> products{
-            {{128, 0, 0, 255}, {0, 255, 0, 255}, {0, 0, 64, 255}, {128, 255, 64, 255}}};
-        EXPECT_EQ(drawn(), products);
-        tinted.pool[0].apply();
-        const std::array<Pixel, 4> sums{
-            {{128, 51, 255, 255}, {0, 255, 255, 255}, {0, 51, 255, 255}, {128, 255, 255, 255}}};
-        EXPECT_EQ(drawn(), sums);
-        Shader().apply();
-        EXPECT_EQ(drawn(), all({255, 255, 255, 255}));
     }
 }
 
-TEST(RealGl, FadesWithoutATextureWhicheverUnitIsSelected)
+TEST_F(RealGl, ShowsWhatTheLayersDescribeAndFadesWithoutATexture)
 {
-    RealGl gl;
-    LoadedPool layered =
-        poolOf("multitexture: 2, 1, nearest, nearest, repeat, repeat, replace, <0, 0, 0, 0>, "
-               "1, nearest, nearest, repeat, repeat, replace, <0, 0, 0, 0>");
-    layered.pool.resolve(gl.textures);
-    layered.pool[0].apply();
+    LoadedPool layered = poolOf("multitexture: 2, 0 nearest nearest repeat repeat replace 0 0 0 0 "
+                                "1 nearest nearest repeat repeat modulate 0 0 0 0");
+    const LoadedPool tinted = poolOf("color: <0, 0.2, 0.4, 1>\nblend: one, one");
+    layered.pool.resolve(textures);
     for (const std::uint32_t unit : {0u, 1u}) {
+        layered.pool[0].apply();
+        glRecti(-1, -1, 1, 1);
+        EXPECT_EQ(shownPixel(), (Pixel{128, 0, 64, 255})); // one times the other
+        tinted.pool[0].apply();
+        glRecti(-1, -1, 1, 1);
+        EXPECT_EQ(shownPixel(), (Pixel{128, 51, 166, 255})); // and the colour
+        layered.pool[0].apply();
         selectUnit(unit);
-        EXPECT_EQ(drawn(), all({128, 255, 64, 255}));
         renderer.fadeScreen(1.0f, 0);
-        EXPECT_EQ(quarters(), all({0, 0, 0, 255})) << "unit " << unit;
+        EXPECT_EQ(shownPixel(), (Pixel{0, 0, 0, 255})) << unit;
     }
 }

@@ -1,46 +1,66 @@
 #pragma once
 
+#include "tests/support/temporary_directory.h"
+#include "zrk/owned_string.h"
 #include "zrk/shaders/shader_layer.h"
 #include "zrk/shaders/shader_pool.h"
-#include "zrk/textures/texture_pool.h"
 
+#include <cstdio>
 #include <string>
-#include <string_view>
-#include <utility>
-#include <vector>
 
-/// A shaders pool loaded from a text, and the shaders that it owns.
+/// What `print` writes to the stream that it is given.
+template <typename Print>
+std::string output(Print print)
+{
+    char* data = nullptr;
+    std::size_t size = 0;
+    std::FILE* stream = open_memstream(&data, &size);
+    print(stream);
+    std::fclose(stream);
+    std::string text(data, size);
+    std::free(data);
+    return text;
+}
+
+/// The layer's line.
+inline std::string textOf(const zrk::ShaderLayer& layer)
+{
+    zrk::String text;
+    layer.toText(text);
+    return text.cString();
+}
+
+/// A shaders pool loaded from a text as a file of this name, and the shaders that it owns.
 struct LoadedPool {
     zrk::ShaderPool pool;
     zrk::ShaderResult result{};
-    std::string log; ///< Of the last load, less "Loading NAME... ", which a missing one shows.
+    std::string log;
 
-    explicit LoadedPool(std::string_view text) { load(text); }
-
-    void load(std::string_view text);
+    explicit LoadedPool(const std::string& text, const char* name = "pool")
+    {
+        const TemporaryDirectory directory;
+        directory.write(name, text);
+        log = output([&](std::FILE* stream) { result = pool.load(name, stream); });
+    }
 
     /// Every shader as a line: its name, a letter for each flag (b, t, c), and its layers, each
     /// ended by a semicolon.
-    std::string summary() const;
+    std::string summary() const
+    {
+        std::string text;
+        for (std::uint32_t i = 0; i < pool.count; ++i) {
+            text += std::string(pool[i].name.cString()) + "[" + (pool[i].hasBlend ? "b" : "") +
+                    (pool[i].hasTexture ? "t" : "") + (pool[i].hasColor ? "c" : "") + "]";
+            for (const zrk::ShaderLayer* layer : pool[i].layers())
+                text += " " + textOf(*layer) + ";";
+            text += "\n";
+        }
+        return text;
+    }
 };
 
 /// A pool of one shader, "sample", which holds the layers that `lines` describe.
-LoadedPool poolOf(const std::string& lines);
-
-std::string textOf(const zrk::ShaderLayer& layer);
-std::string printed(const zrk::ShaderLayer& layer);
-
-/// The pairs of a data file beside the tests: what is given and what is expected of it, with a
-/// line "--" between them and a line "==" after each pair.
-std::vector<std::pair<std::string, std::string>> pairsIn(const char* dataFile);
-
-/// A layer's line with a "*", a word that may stand there, and the call that sends its value.
-struct AcceptedWord {
-    std::string pattern, word, call;
-
-    std::string line() const { return lineWith(word); }
-    std::string lineWith(const std::string& anyWord) const;
-};
-
-/// Every word of every position.
-std::vector<AcceptedWord> acceptedWords();
+inline LoadedPool poolOf(const std::string& lines)
+{
+    return LoadedPool("sample\n{\n" + lines + "\n}\n");
+}
