@@ -10,8 +10,7 @@ std::filesystem::path windowsDirectory(const char* wished, const std::filesystem
     if (wished != nullptr && *wished != '\0')
         return wished;
     for (const char* place : {"windows", "../../share/quazo", "../share/quazo"}) {
-        std::filesystem::path directory =
-            (executable.parent_path() / place).lexically_normal();
+        std::filesystem::path directory = (executable.parent_path() / place).lexically_normal();
         std::error_code unreadable;
         if (std::filesystem::is_directory(directory, unreadable))
             return directory;

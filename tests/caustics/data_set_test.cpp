@@ -15,7 +15,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using Numbers = std::valarray<double>;
-using Places = std::valarray<std::size_t>;
 
 constexpr int side = 512;
 const fs::path dataSet = fs::path(QUAZO_WINDOWS) / caustics::dataFolder;
@@ -35,16 +34,15 @@ double contrast(const Numbers& numbers)
     return std::sqrt(covariance(numbers, numbers)) / mean(numbers);
 }
 
-double quantile(double part, Numbers numbers)
+double quantile(double part, Numbers set)
 {
-    auto* const place =
-        std::begin(numbers) + std::lround(part * static_cast<double>(numbers.size()));
-    std::nth_element(std::begin(numbers), place, std::end(numbers));
+    auto* const place = std::begin(set) + std::lround(part * static_cast<double>(set.size()));
+    std::nth_element(std::begin(set), place, std::end(set));
     return *place;
 }
 
 /// The places in an image of the texels inside the disc of `radius`, where 1 is the rim.
-Places disc(double radius)
+std::valarray<std::size_t> disc(double radius)
 {
     constexpr double half = side / 2.0;
     std::vector<std::size_t> places;
@@ -57,7 +55,7 @@ Places disc(double radius)
 /// The levels of all texels well inside the disc at (1, 1), else of their neighbours.
 Numbers around(const Numbers& image, std::size_t down, std::size_t right)
 {
-    static const Places corners = disc(0.9) - (side + 1);
+    static const std::valarray<std::size_t> corners = disc(0.9) - (side + 1);
     return image[corners + (down * side + right)];
 }
 
@@ -128,7 +126,7 @@ void expectGoodMotion(const std::vector<Numbers>& frames)
         }
     }
     const Numbers inner = steps[std::slice(0, count - 1, 1)];
-    expectWithin("loop: the step from last to first", {steps[count - 1]}, 0.8 * inner.min(),
+    expectWithin("loop: step to the first", {steps[count - 1]}, 0.8 * inner.min(),
                  1.2 * inner.max());
     expectWithin("largest step / smallest step", {steps.max() / steps.min()}, 1.0, 1.5);
     expectWithin("mean correlation of a step", {mean(alike)}, 0.65, 1.0);
@@ -141,7 +139,7 @@ TEST(DataSet, LooksAndMovesLikeLightUnderWater)
 {
     const auto files = std::distance(fs::directory_iterator(dataSet), fs::directory_iterator());
     expectWithin("images, beside three text files", {static_cast<double>(files - 3)}, 32, 32);
-    const Places shown = disc(1.0); // by the surface
+    const auto shown = disc(1.0); // by the surface
     std::vector<Numbers> images, discs;
     Numbers sizes(caustics::frameCount);
     for (int frame = 0; frame < caustics::frameCount; ++frame) {

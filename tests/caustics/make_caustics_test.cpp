@@ -8,8 +8,6 @@
 
 namespace {
 
-namespace fs = std::filesystem;
-
 using Contents = std::map<std::string, std::string>;
 
 /// Runs the program below a shell in the current directory; true if it succeeds.
@@ -19,7 +17,7 @@ bool run(const std::string& arguments, const std::string& shellWords = "")
     return std::system((program + arguments + " >output.txt 2>&1").c_str()) == 0;
 }
 
-std::string textOf(const fs::path& file)
+std::string textOf(const std::filesystem::path& file)
 {
     std::ostringstream text;
     text << std::ifstream(file, std::ios::binary).rdbuf();
@@ -30,7 +28,7 @@ std::string textOf(const fs::path& file)
 Contents contents()
 {
     Contents found;
-    for (const auto& entry : fs::recursive_directory_iterator("."))
+    for (const auto& entry : std::filesystem::recursive_directory_iterator("."))
         found[entry.path().filename()] = entry.is_regular_file() ? textOf(entry) : "";
     found.erase("output.txt");
     return found;

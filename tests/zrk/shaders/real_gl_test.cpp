@@ -151,16 +151,16 @@ TEST_F(RealGl, HasEveryWordInItsPlaceAndNoOtherIsTaken)
 TEST_F(RealGl, ShowsWhatTheLayersDescribeAndFadesWithoutATexture)
 {
     LoadedPool layered = poolOf("multitexture: 2, 0 nearest nearest repeat repeat replace 0 0 0 0 "
-                                "1 nearest nearest repeat repeat modulate 0 0 0 0");
-    const LoadedPool tinted = poolOf("color: <0, 0.2, 0.4, 1>\nblend: one, one");
+                                "1 nearest nearest repeat repeat blend 0 1 0 0");
+    const LoadedPool tinted = poolOf("color: <0.2, 0, 0.2, 1>\nblend: one, one");
     layered.pool.resolve(textures);
     for (const std::uint32_t unit : {0u, 1u}) {
         layered.pool[0].apply();
         glRecti(-1, -1, 1, 1);
-        EXPECT_EQ(shownPixel(), (Pixel{128, 0, 64, 255})); // one times the other
+        EXPECT_EQ(shownPixel(), (Pixel{127, 255, 191, 255})); // green where the second is light
         tinted.pool[0].apply();
         glRecti(-1, -1, 1, 1);
-        EXPECT_EQ(shownPixel(), (Pixel{128, 51, 166, 255})); // and the colour
+        EXPECT_EQ(shownPixel(), (Pixel{178, 255, 242, 255})); // and the colour
         layered.pool[0].apply();
         selectUnit(unit);
         renderer.fadeScreen(1.0f, 0);
