@@ -13,7 +13,6 @@ struct Recorder {
     std::vector<std::string> calls;
     std::map<GLenum, GLint> integers;
     std::string extensions;
-    std::vector<unsigned char> pixels;
     GLenum nextError = GL_NO_ERROR;
     GLuint lastTextureName = 0;
 };
@@ -77,25 +76,9 @@ void record(const char* function, const Parameters&... parameters)
     recorder.calls.push_back(callText(function, parameters...));
 }
 
-std::size_t bytesPerPixel(GLenum format, GLenum type)
+std::string pixelsOrNull(const void* pixels)
 {
-    if (type == GL_UNSIGNED_SHORT_5_6_5)
-        return 2;
-    return format == GL_RGBA ? 4 : format == GL_RGB ? 3 : 1;
-}
-
-const char* takePixels(GLsizei width, GLsizei height, GLenum format, GLenum type,
-                       const void* pixels)
-{
-    recorder.pixels.clear();
-    if (pixels == nullptr)
-        return "null";
-    const auto* first = static_cast<const unsigned char*>(pixels);
-    const std::size_t row = static_cast<std::size_t>(width) * bytesPerPixel(format, type);
-    const std::size_t pitch = (row + 3) / 4 * 4; // OpenGL's initial unpack alignment
-    for (GLsizei y = 0; y < height; ++y, first += pitch)
-        recorder.pixels.insert(recorder.pixels.end(), first, first + row);
-    return "pixels";
+    return pixels == nullptr ? "null" : "pixels";
 }
 
 } // namespace
@@ -140,11 +123,6 @@ void setExtensions(const std::string& extensions)
 void APIENTRY activeTexture(GLenum unit)
 {
     record("glActiveTextureARB", nameOf(unit));
-}
-
-const std::vector<unsigned char>& uploadedPixels()
-{
-    return recorder.pixels;
 }
 
 } // namespace gl_recorder
@@ -194,13 +172,13 @@ RECORDED(glTexImage2D,
          (GLenum target, GLint level, GLint internalFormat, GLsizei width, GLsizei height,
           GLint border, GLenum format, GLenum type, const void* pixels),
          nameOf(target), level, nameOf(internalFormat), width, height, border, nameOf(format),
-         nameOf(type), takePixels(width, height, format, type, pixels))
+         nameOf(type), pixelsOrNull(pixels))
 
 GLint gluBuild2DMipmaps(GLenum target, GLint internalFormat, GLsizei width, GLsizei height,
                         GLenum format, GLenum type, const void* pixels)
 {
     record("gluBuild2DMipmaps", nameOf(target), nameOf(internalFormat), width, height,
-           nameOf(format), nameOf(type), takePixels(width, height, format, type, pixels));
+           nameOf(format), nameOf(type), pixelsOrNull(pixels));
     return 0;
 }
 

@@ -32,7 +32,4 @@ void setExtensions(const std::string& extensions);
 /// Stands in for the multitexture extension's entry point: "glActiveTextureARB(GL_TEXTURE1_ARB)".
 void APIENTRY activeTexture(GLenum unit);
 
-/// The bytes last handed to glTexImage2D or gluBuild2DMipmaps, without the padding of their rows.
-const std::vector<unsigned char>& uploadedPixels();
-
 } // namespace gl_recorder
