@@ -12,6 +12,7 @@ results=build/bench
 mkdir -p "$results"
 for bench in surface sending swap saver; do
     "build/release/bench/${bench}_bench" --benchmark_repetitions="${1:-5}" \
+        --benchmark_enable_random_interleaving=true \
         --benchmark_report_aggregates_only=true --benchmark_out_format=json \
         --benchmark_out="$results/$bench.json" >/dev/null 2>"$results/$bench.log" ||
         stop "${bench}_bench failed: see $results/$bench.log"

@@ -34,7 +34,7 @@ def medians(paths):
 def main():
     times = medians(sys.argv[1:])
     for name, time in times.items():
-        print(f"{name:48} {time / 1e6:12.4f} ms")
+        print(f"{name:48} {time / 1e6:14.6f} ms")
     print()
     for label, one, other in RATIOS:
         if one in times and other in times:

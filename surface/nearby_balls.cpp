@@ -107,7 +107,7 @@ bool NearbyBalls::enterOctant(std::uint32_t depth, std::size_t octant)
     for (const auto& [ball, toOctants2] : at(depth)) {
         const float d2 = toOctants2[octant / 4][octant % 4];
         met |= d2 <= ball->radius2;
-        // Written in any case, kept if near: a branch would be mispredicted half the time.
+        // Written in any case, kept if near: a branch could not be predicted.
         list[count].ball = ball;
         count += d2 > ball->reach2 ? 0 : 1; // what is no number stays
     }
