@@ -49,17 +49,6 @@ void prepareSurface()
     metaballSurface.setBallCount(metaballCount);
 }
 
-void drawMotions()
-{
-    for (std::uint32_t i = 0; i < metaballCount; ++i) {
-        const MetaballMotion motion = randomMotion();
-        amplitudes[i] = motion.amplitude;
-        frequencies[i] = motion.frequency;
-        phases[i] = motion.phase;
-        radii[i] = motion.radius;
-    }
-}
-
 void moveBalls()
 {
     for (std::uint32_t i = 0; i < metaballSurface.ballCount; ++i) {
@@ -84,6 +73,17 @@ const zrk::Shader& causticShader()
 }
 
 } // namespace
+
+void drawMotions()
+{
+    for (std::uint32_t i = 0; i < metaballCount; ++i) {
+        const MetaballMotion motion = randomMotion();
+        amplitudes[i] = motion.amplitude;
+        frequencies[i] = motion.frequency;
+        phases[i] = motion.phase;
+        radii[i] = motion.radius;
+    }
+}
 
 void startScene()
 {

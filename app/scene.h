@@ -11,5 +11,8 @@ extern constinit std::uint32_t frameCounter;
 /// status 1; its window is left to the system.
 void startScene();
 
+/// Draws new random paths and radii for all balls.
+void drawMotions();
+
 /// Darkens the picture and draws the surface over it, then moves the clock on. Always true.
 [[nodiscard]] bool drawFrame();

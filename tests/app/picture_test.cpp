@@ -1,5 +1,4 @@
 #include "app/gl_window.h"
-#include "app/metaball_motion.h"
 #include "app/scene.h"
 #include "app/shell_state.h"
 #include "tests/support/virtual_display.h"
@@ -28,13 +27,7 @@ protected:
     static void restart(unsigned seed)
     {
         std::srand(seed);
-        for (std::uint32_t i = 0; i < metaballCount; ++i) {
-            const MetaballMotion motion = randomMotion();
-            amplitudes[i] = motion.amplitude;
-            frequencies[i] = motion.frequency;
-            phases[i] = motion.phase;
-            radii[i] = motion.radius;
-        }
+        drawMotions();
         animationTime = 0.0f;
         glClear(GL_COLOR_BUFFER_BIT);
     }

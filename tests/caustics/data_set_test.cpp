@@ -46,9 +46,10 @@ std::valarray<std::size_t> disc(double radius)
 {
     constexpr double half = side / 2.0;
     std::vector<std::size_t> places;
-    for (int place = 0; place < side * side; ++place)
-        if (std::hypot(place % side + 0.5 - half, place / side + 0.5 - half) < radius * half)
-            places.push_back(static_cast<std::size_t>(place));
+    for (int y = 0; y < side; ++y)
+        for (int x = 0; x < side; ++x)
+            if (std::hypot(x + 0.5 - half, y + 0.5 - half) < radius * half)
+                places.push_back(static_cast<std::size_t>(y * side + x));
     return {places.data(), places.size()};
 }
 
@@ -126,8 +127,7 @@ void expectGoodMotion(const std::vector<Numbers>& frames)
         }
     }
     const Numbers inner = steps[std::slice(0, count - 1, 1)];
-    expectWithin("loop: step to the first", {steps[count - 1]}, 0.8 * inner.min(),
-                 1.2 * inner.max());
+    expectWithin("loop: last step", {steps[count - 1]}, 0.8 * inner.min(), 1.2 * inner.max());
     expectWithin("largest step / smallest step", {steps.max() / steps.min()}, 1.0, 1.5);
     expectWithin("mean correlation of a step", {mean(alike)}, 0.65, 1.0);
     expectWithin("difference of any two frames", apart, 4.0, 255.0);

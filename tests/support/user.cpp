@@ -124,7 +124,8 @@ void User::askToClose(Window window) const
 
 int User::Picture::brightness(int x, int y) const
 {
-    const unsigned char* pixel = &rgb[static_cast<std::size_t>((y * width + x) * 3)];
+    const auto position = static_cast<std::size_t>(y) * static_cast<std::size_t>(width);
+    const unsigned char* pixel = &rgb[3 * (position + static_cast<std::size_t>(x))];
     return *std::max_element(pixel, pixel + 3);
 }
 

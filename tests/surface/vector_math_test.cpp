@@ -1,10 +1,7 @@
-#include "surface/matrix4.h"
 #include "surface/plane.h"
 #include "surface/vec3.h"
 
 #include <gtest/gtest.h>
-
-#include <array>
 
 TEST(Vec3, NormalizesToLengthOneAndLeavesZeroAlone)
 {
@@ -14,15 +11,6 @@ TEST(Vec3, NormalizesToLengthOneAndLeavesZeroAlone)
     Vec3 zero;
     zero.normalize();
     EXPECT_EQ(zero.length(), 0);
-}
-
-TEST(Matrix4, ProductDoesTheRightHandFactorFirst)
-{
-    // x and y exchanged: what was moved by (1, 2, 3) has then moved by (2, 1, 3).
-    Matrix4 swap = Matrix4::fromRows({0, 1, 0}, {1, 0, 0}, {0, 0, 1});
-    swap *= Matrix4::translation(1, 2, 3);
-    const std::array<float, 16> expected{0, 1, 0, 2, 1, 0, 0, 1, 0, 0, 1, 3, 0, 0, 0, 1};
-    EXPECT_EQ(swap.elements, expected);
 }
 
 TEST(Plane, NormalizingKeepsItsPoints)

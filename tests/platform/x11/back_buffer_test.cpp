@@ -30,14 +30,6 @@ void fill(float red, float green, float blue)
     glClear(GL_COLOR_BUFFER_BIT);
 }
 
-void fade()
-{
-    glEnable(GL_BLEND);
-    glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
-    glColor4f(0.0f, 0.0f, 0.0f, 0.1f);
-    glRecti(-1, -1, 1, 1);
-}
-
 // What a driver that exchanges its buffers may leave: anything but the picture.
 void spoilWindowsOwnBuffer()
 {
@@ -85,10 +77,13 @@ TEST_F(BackBuffer, FadesEveryLevelToBlackWhateverTheSwapLeavesBehind)
     std::iota(levels.begin(), levels.end(), GLubyte{0});
     glRasterPos2i(-1, -1);
     glDrawPixels(256, 1, GL_LUMINANCE, GL_UNSIGNED_BYTE, levels.data());
+    glEnable(GL_BLEND);
+    glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+    glColor4f(0.0f, 0.0f, 0.0f, 0.1f);
     int frame = 0;
     for (const int lookedAt : {1, 5, 10, 20, 80}) {
         for (; frame < lookedAt; ++frame) {
-            fade();
+            glRecti(-1, -1, 1, 1);
             ASSERT_TRUE(swapBuffers(window));
             spoilWindowsOwnBuffer();
         }
@@ -127,6 +122,10 @@ TEST_F(BackBuffer, KeepsThePictureOverAChangeOfSizeAsFarAsItFits)
     EXPECT_EQ(pixelAt(399, 300), black);
     fill(1.0f, 0.0f, 0.0f); // reaches the new edges
     EXPECT_EQ(pixelAt(499, 599), (Pixel{255, 0, 0, 255}));
+
+    XResizeWindow(server, window, 640, 480);
+    XSync(server, False);
+    EXPECT_EQ(next(WM_SIZE).lParam, MAKELPARAM(640, 480)); // those before are no news
 }
 
 TEST_F(BackBuffer, ReadsAnAlphaOf1InAFormatWithAlphaToo)

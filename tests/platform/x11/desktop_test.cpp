@@ -8,11 +8,7 @@
 
 using namespace platform::desktop;
 
-namespace {
-
 using Desktop = DesktopFixture;
-
-} // namespace
 
 TEST_F(Desktop, CoversTheScreenOfAManagerAndTellsWhenItIsMinimised)
 {
@@ -20,7 +16,7 @@ TEST_F(Desktop, CoversTheScreenOfAManagerAndTellsWhenItIsMinimised)
     constexpr WPARAM minimised = WPARAM{1} << 16;
     const NativeWindow window = open();
     EXPECT_TRUE(placeWindow(window, 0, 0, {1024, 767}, true));
-    EXPECT_EQ(next(WM_SIZE).lParam, MAKELPARAM(1024, 768));
+    EXPECT_TRUE(User::waitUntil([] { return next(WM_SIZE).lParam == MAKELPARAM(1024, 768); }));
     XIconifyWindow(server, window, 0);
     XSync(server, False);
     EXPECT_TRUE(User::waitUntil([] { return next(WM_ACTIVATE).wParam == minimised; }));
