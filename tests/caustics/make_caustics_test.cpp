@@ -8,8 +8,6 @@
 
 namespace {
 
-using Contents = std::map<std::string, std::string>;
-
 /// Runs the program below a shell in the current directory; true if it succeeds.
 bool run(const std::string& arguments, const std::string& shellWords = "")
 {
@@ -25,9 +23,9 @@ std::string textOf(const std::filesystem::path& file)
 }
 
 /// All that is in the current directory but what the program said.
-Contents contents()
+std::map<std::string, std::string> contents()
 {
-    Contents found;
+    std::map<std::string, std::string> found;
     for (const auto& entry : std::filesystem::recursive_directory_iterator("."))
         found[entry.path().filename()] = entry.is_regular_file() ? textOf(entry) : "";
     found.erase("output.txt");
@@ -38,7 +36,7 @@ TEST(MakeCaustics, BytesDependOnTheSeedAndNotOnTheThreads)
 {
     const TemporaryDirectory directory;
     ASSERT_TRUE(run("--size 32 --threads 1 ."));
-    const Contents first = contents();
+    const auto first = contents();
     EXPECT_EQ(first.size(), 36U); // the folder, 32 images, three text files
     ASSERT_TRUE(run("--size 32 --threads 3 ."));
     EXPECT_EQ(contents(), first);
@@ -67,7 +65,7 @@ TEST(MakeCaustics, FailureLeavesNothingOrTheFormerSet)
     fail();
     EXPECT_TRUE(contents().empty());
     ASSERT_TRUE(run("--size 16 ."));
-    const Contents former = contents();
+    const auto former = contents();
     fail();
     EXPECT_EQ(contents(), former);
 }
