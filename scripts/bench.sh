@@ -8,7 +8,7 @@ source scripts/packages.sh
 require_packages $build_packages $run_packages $test_packages
 cmake --preset release -DBUILD_TESTING=ON -DQUAZO_BENCH=ON >/dev/null
 cmake --build --preset release >/dev/null
-results=build/bench
+results="$PWD/build/bench" # the saver changes its directory
 mkdir -p "$results"
 for bench in surface sending swap saver; do
     "build/release/bench/${bench}_bench" --benchmark_repetitions="${1:-5}" \
