@@ -28,7 +28,7 @@ constexpr std::array glErrorTexts = {
 // Whichever units a shader has left enabled or selected. The attribute stack brings both back.
 void disableTexturing(const Renderer& with)
 {
-    if (!with.multitextureAvailable) {
+    if (!with.severalUnitsUsed) {
         glDisable(GL_TEXTURE_2D);
         return;
     }

@@ -22,6 +22,10 @@ public:
     /// Units that `glActiveTextureARB` may select; 1 while multitexture is not available.
     std::uint32_t textureUnits = 1;
 
+    /// A unit beyond the first has been selected, as only layers of several textures do. Until then
+    /// no other unit can be enabled, and fading needs to look at none.
+    bool severalUnitsUsed = false;
+
     Renderer() = default;
     Renderer(const Renderer&) = delete;
     Renderer& operator=(const Renderer&) = delete;

@@ -50,8 +50,10 @@ void setTextureUnits(std::uint32_t mask)
 
 void selectUnit(std::uint32_t unit)
 {
-    if (renderer.multitextureAvailable)
-        renderer.glActiveTextureARB(GL_TEXTURE0_ARB + unit);
+    if (!renderer.multitextureAvailable)
+        return;
+    renderer.glActiveTextureARB(GL_TEXTURE0_ARB + unit);
+    renderer.severalUnitsUsed |= unit > 0;
 }
 
 void returnToFirstUnit()

@@ -67,7 +67,7 @@ struct MixedPool : LoadedPool {
         gl_recorder::reset();
     }
 
-    ~MixedPool() { renderer.multitextureAvailable = false; }
+    ~MixedPool() { renderer.multitextureAvailable = renderer.severalUnitsUsed = false; }
 };
 
 const std::string sendLit =
