@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs every benchmark of the release build, and prints one table of medians, then the ratios that
-# count. An argument is the number of repetitions; 5 without one.
+# count. An argument is the number of repetitions, at least 2; 5 without one.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source scripts/packages.sh

@@ -16,7 +16,7 @@ namespace platform::x11 {
 void closeConnection();
 
 /// Makes ours the handlers of X errors, for every connection of this process. An error outside an
-/// XErrorTrap is ignored: a saver outlives a hiccup. Call it again after a library has put its own.
+/// XErrorTrap is ignored: a saver outlives a hiccup.
 void installErrorHandlers();
 
 /// Notes the first X error among the requests made in its scope. Scopes nest; the innermost one
