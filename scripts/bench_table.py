@@ -13,6 +13,8 @@ RATIOS = [
     *[(f"ours, whole region, depth {depth + 1} / {depth}", f"drawFrames/ours_whole/{depth + 1}",
        f"drawFrames/ours_whole/{depth}") for depth in range(5, 8)],
     ("polygonised and sent / sent alone", "polygonizedAndSent", "sendingAlone"),
+    ("frame on the kept picture without its copy / on the window's", "frameWithoutCopy",
+     "frameOnWindowsBuffer"),
     ("frame on the kept picture / on the window's buffer", "frameOnBackBuffer",
      "frameOnWindowsBuffer"),
 ]

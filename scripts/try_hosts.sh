@@ -5,6 +5,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
+umask 022 # the ordinary user reads what is installed
 scratch=$(mktemp -d)
 chmod 755 "$scratch"
 mkdir "$scratch/home"
