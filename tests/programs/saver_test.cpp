@@ -135,7 +135,7 @@ TEST_F(Saver, ShowsTheFirstTextureWhereThereIsNoMultitexture)
     user.press(XK_Escape);
     EXPECT_EQ(saver.wait(), 0);
     EXPECT_EQ(saver.standardError(),
-              "quazo: no multitexture: of several textures only the first is shown\n");
+              "quazo: too few texture units: only the first of several textures is shown\n");
 }
 
 // Nobody of this process is connected when the server goes: Xlib would end the test with it.

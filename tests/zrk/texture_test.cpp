@@ -54,6 +54,11 @@ TEST(TextureLoad, ShrinksToTheNearestSourcePixel)
         load<std::uint8_t>(texture, "image.pgm", "P5 1024 1 255\n" + std::string(1024, '\x07')),
         testing::AllOf(testing::SizeIs(512), testing::Each(7)));
     EXPECT_EQ(texture.surface->format->palette->colors[7].r, 7);
+    load<std::uint8_t>(texture, "image.xpm",
+                       "/* XPM */ {\n\"513 1 1 1\",\n\"a c None\",\n\"" + std::string(513, 'a') +
+                           "\"};\n");
+    EXPECT_EQ(texture.surface->w, 512);
+    EXPECT_NE(texture.surface->flags & SDL_SRCCOLORKEY, 0u); // is transparent yet
 }
 
 TEST(TextureLoad, RefusesWithOneLineAndChangesNothing)

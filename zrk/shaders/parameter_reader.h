@@ -1,7 +1,7 @@
 #pragma once
 
+#include "zrk/line_tokens.h"
 #include "zrk/shaders/keywords.h"
-#include "zrk/shaders/line_tokens.h"
 #include "zrk/shaders/shader_result.h"
 
 #include <cstdint>

@@ -3,7 +3,7 @@
 #include "zrk/allocation.h"
 #include "zrk/gl.h"
 #include "zrk/shaders/layer_registry.h"
-#include "zrk/shaders/line_tokens.h"
+#include "zrk/shaders/line_buffer.h"
 #include "zrk/shaders/shader_layer.h"
 #include "zrk/shaders/texture_units.h"
 

@@ -1,9 +1,10 @@
 #include "zrk/shaders/shader_parser.h"
 
+#include "zrk/line_tokens.h"
 #include "zrk/shaders/blend_layer.h"
 #include "zrk/shaders/color_layer.h"
 #include "zrk/shaders/keywords.h"
-#include "zrk/shaders/line_tokens.h"
+#include "zrk/shaders/line_buffer.h"
 #include "zrk/shaders/multitexture_layer.h"
 #include "zrk/shaders/shader.h"
 #include "zrk/shaders/texture_layer.h"

@@ -73,7 +73,8 @@ std::uint32_t shownStages(std::uint32_t stageCount)
     if (stageCount <= renderer.textureUnits)
         return stageCount;
     if (!glCaches.shortageStated)
-        std::fputs("quazo: no multitexture: of several textures only the first is shown\n", stderr);
+        std::fputs("quazo: too few texture units: only the first of several textures is shown\n",
+                   stderr);
     glCaches.shortageStated = true;
     return 1;
 }

@@ -31,13 +31,15 @@ bool isPngWithoutImage(const char* name)
         std::memcmp(bytes, "\x89PNG\r\n\x1a\n", 8) != 0)
         return false;
     // Chunks: length, high byte first, and name; so many bytes; a checksum of four.
+    constexpr std::uint32_t mostLength = 0x7fffffff - 4;
     while (std::fread(bytes, 1, 8, file.get()) == 8) {
         if (std::memcmp(bytes + 4, "IDAT", 4) == 0)
             return false;
         const std::uint32_t length = (std::uint32_t{bytes[0]} << 24) +
                                      (std::uint32_t{bytes[1]} << 16) +
                                      (std::uint32_t{bytes[2]} << 8) + bytes[3];
-        if (std::fseek(file.get(), static_cast<long>(length) + 4, SEEK_CUR) != 0)
+        if (length > mostLength ||
+            std::fseek(file.get(), static_cast<long>(length) + 4, SEEK_CUR) != 0)
             break;
     }
     return true;

@@ -52,6 +52,7 @@ void Texture::resample(SDL_Surface& destination) const
     const SDL_PixelFormat& to = *destination.format;
     if (from.BytesPerPixel == 1) {
         copyPalette(*from.palette, *to.palette);
+        SDL_SetColorKey(&destination, surface->flags & SDL_SRCCOLORKEY, from.colorkey);
         sampleNearest<std::uint8_t>(*surface, destination,
                                     [](std::uint8_t index) { return index; });
         return;

@@ -44,7 +44,8 @@ public:
     /// Decodes the image file `name` (null is no file), converts anything but 8-bit images to
     /// `rgba32Format`, and shrinks what is larger than the `renderer` allows. 0, or -1 on any
     /// failure. A file that cannot be decoded, or holds no pixels, or 65536 or more in a direction,
-    /// leaves the texture as it was and is one line on `log` where there is one.
+    /// leaves the texture as it was and is one line on `log` where there is one. Without memory for
+    /// the conversion there is no surface afterwards, without memory to shrink it the large one.
     [[nodiscard]] std::int32_t load(const char* name, std::ostream* log);
 
     /// Makes the texture object of the pixels held, once; returns `glName`. An OpenGL context
@@ -60,7 +61,8 @@ private:
     bool limitSize();
 
     /// Fills `destination`, which is no larger than the surface held and has its depth, with the
-    /// nearest pixels of it: its palette and indices, or its colours without their alpha.
+    /// nearest pixels of it: its palette, colour key and indices, or its colours without their
+    /// alpha.
     void resample(SDL_Surface& destination) const;
 };
 

@@ -1,6 +1,7 @@
 #include "zrk/textures/texture_pool.h"
 
 #include "zrk/allocation.h"
+#include "zrk/line_tokens.h"
 #include "zrk/text_file.h"
 #include "zrk/textures/rgba32_format.h"
 
@@ -8,7 +9,6 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <iterator>
 #include <limits>
 #include <ostream>
@@ -19,20 +19,9 @@ namespace zrk {
 
 namespace {
 
-enum PoolCode : std::int32_t {
-    loaded = 0,
-    cannotOpenFile = 1,
-    cannotCloseFile = 2,
-    readError = 3, ///< 4, a write error, has a text but never happens.
-    unknownOption = 5,
-    cannotConvert = 6,
-    noFirstLine = -1,
-    noTextures = -2, ///< The count is 0, negative, or no number.
-    tooFewLines = -4,
-    cannotLoadImage = -100, ///< The image's own result a hundredfold.
-};
+using enum TexturePool::Code;
 
-// By code; the name follows, and an apostrophe.
+// By code, 4 being a write error, which never happens; the name follows, and an apostrophe.
 constexpr std::array messages = {
     "Successfully loaded `",   "Error opening file `",    "Error closing file `",
     "Error reading in file `", "Error writing in file `", "Unknown texture parameter `",
@@ -57,20 +46,14 @@ public:
 
     bool nextLine()
     {
-        rest = line.data();
+        tokens = LineTokens(line.data());
         return readLine(file, line);
     }
 
     /// Null at the end of the line.
     const char* nextToken()
     {
-        constexpr const char* separators = ", \n";
-        token = rest + std::strspn(rest, separators);
-        rest = token + std::strcspn(token, separators);
-        if (token == rest)
-            return nullptr;
-        if (*rest != '\0')
-            *rest++ = '\0';
+        token = tokens.next(", \n");
         return token;
     }
 
@@ -102,8 +85,8 @@ public:
 private:
     std::FILE* file;
     std::array<char, 1024> line{}; // the line feed and the terminator included
-    char* token = line.data();
-    char* rest = line.data();
+    LineTokens tokens{line.data()};
+    const char* token = nullptr;
 };
 
 bool readOptions(PoolReader& reader, Texture& texture)

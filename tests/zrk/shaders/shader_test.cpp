@@ -121,7 +121,7 @@ TEST(Shader, MakesTheCallsThatAMixedPoolNeedsAndSaysOnceWhatIsLeftOut)
                      {opaque + white + "; enable TEXTURE_2D; " + sendFirst,
                       opaque + white + "; enable TEXTURE_2D", opaque}});
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "quazo: no multitexture: of several textures only the first is shown\n");
+              "quazo: too few texture units: only the first of several textures is shown\n");
 }
 
 TEST(ShaderLayer, ReappliesAndReadsBackPastTheCachesAndPrintsWhatHasAWord)

@@ -1,10 +1,9 @@
-#include "zrk/shaders/line_tokens.h"
+#include "zrk/shaders/line_buffer.h"
 
 #include "zrk/allocation.h"
 
 #include <cassert>
 #include <cstddef>
-#include <cstring>
 
 namespace zrk {
 
@@ -26,17 +25,6 @@ void makeLineBuffer()
 {
     if (lineBufferStart == nullptr)
         lineBufferStart = newArray<char>(lineBufferBytes).release();
-}
-
-char* LineTokens::next(const char* delimiters)
-{
-    char* const token = rest + std::strspn(rest, delimiters);
-    rest = token + std::strcspn(token, delimiters);
-    if (rest == token)
-        return nullptr;
-    if (*rest != '\0')
-        *rest++ = '\0';
-    return token;
 }
 
 } // namespace zrk

@@ -1,15 +1,6 @@
 #pragma once
 
-#include <span>
-
 namespace zrk {
-
-/// Where the parser puts the line that it works on: 16384 bytes, the terminator included, for
-/// the whole process. `makeLineBuffer` comes first.
-std::span<char> lineBuffer();
-
-/// Allocates the line buffer, once; it is never freed. No memory is `Cexception`.
-void makeLineBuffer();
 
 /// Cuts a line into tokens. Each scan says what separates its token: a shader's line is cut at
 /// other characters after its keyword, and at others again within angle brackets.

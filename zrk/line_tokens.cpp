@@ -1,0 +1,18 @@
+#include "zrk/line_tokens.h"
+
+#include <cstring>
+
+namespace zrk {
+
+char* LineTokens::next(const char* delimiters)
+{
+    char* const token = rest + std::strspn(rest, delimiters);
+    rest = token + std::strcspn(token, delimiters);
+    if (rest == token)
+        return nullptr;
+    if (*rest != '\0')
+        *rest++ = '\0';
+    return token;
+}
+
+} // namespace zrk
