@@ -60,7 +60,7 @@ TEST(MakeCaustics, FailureLeavesNothingOrTheFormerSet)
     const TemporaryDirectory directory;
     const auto fail = [] {
         EXPECT_FALSE(run("--size 32 .", "ulimit -f 1;")); // no file may grow beyond 1024 bytes
-        EXPECT_FALSE(run("--size 1024 .", "timeout -s TERM 0.5"));
+        EXPECT_FALSE(run("--size 512 .", "timeout -s TERM 0.5"));
     };
     fail();
     EXPECT_TRUE(contents().empty());

@@ -13,7 +13,7 @@ const char* const helpText =
     "it into <directory>/###quazo!_data###/ with the files that lead the saver to it.\n"
     "\n"
     "  --seed <number>     which sea: the same number makes the same files (default 13)\n"
-    "  --size <texels>     the side of an image, 16 to 1024 (default 512)\n"
+    "  --size <texels>     the side of an image, 16 to 512 (default 512)\n"
     "  --threads <number>  how many at work, 1 to 64 (default: one per processor)\n"
     "  --help              show this text and end\n"
     "\n"
@@ -31,7 +31,7 @@ struct NumberOption {
 
 constexpr NumberOption numberOptions[] = {
     {"--seed", 0, UINT64_MAX, [](Options& options, std::uint64_t value) { options.seed = value; }},
-    {"--size", 16, 1024,
+    {"--size", 16, 512,
      [](Options& options, std::uint64_t value) { options.size = static_cast<int>(value); }},
     {"--threads", 1, 64,
      [](Options& options, std::uint64_t value) { options.threads = static_cast<int>(value); }},

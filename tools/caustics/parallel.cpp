@@ -1,8 +1,10 @@
 #include "tools/caustics/parallel.h"
 
+#include <algorithm>
 #include <atomic>
 #include <exception>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -25,8 +27,11 @@ void inParallel(int count, int threads, const std::function<void(int)>& work)
     };
     {
         std::vector<std::jthread> others;
-        for (int i = 1; i < threads; ++i)
-            others.emplace_back(workOn);
+        try {
+            for (int i = 1; i < std::min(threads, count); ++i)
+                others.emplace_back(workOn);
+        } catch (const std::system_error&) { // fewer do it too
+        }
         workOn();
     }
     if (failure)

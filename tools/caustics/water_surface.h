@@ -18,6 +18,7 @@ struct SurfaceRow {
 /// from several threads.
 class WaterSurface {
 public:
+    /// No wave has a wave number above `largestWaveNumber`.
     WaterSurface(std::span<const Wave> waves, int pointsPerSide);
 
     int pointsPerSide() const { return points; }
