@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr float viewAngle = 90.0f;
+constexpr float fieldOfView = 90.0f;    // see setPerspective
 constexpr float nearDistance = 1.0f;    // world units
 constexpr float farDistance = 15000.0f; // world units
 constexpr Vec3 fixedEye{0.0f, 0.0f, -500.0f};
@@ -116,7 +116,7 @@ void resizeGlView(std::int32_t width, std::int32_t height)
     windowHeight = height;
     glViewport(0, 0, width, height);
     const float aspect = static_cast<float>(width) / static_cast<float>(height == 0 ? 1 : height);
-    camera.setPerspective(viewAngle, aspect, nearDistance, farDistance);
+    camera.setPerspective(fieldOfView, aspect, nearDistance, farDistance);
     camera.lookAt(fixedEye, fixedTarget);
     camera.loadIntoGl();
     camera.frustum.refreshSelectors();

@@ -16,12 +16,12 @@ public:
     Matrix4 projection;
     Matrix4 view; ///< World to eye: to (right, up, back).
     Vec3 eye;
-    float near = 1.0f;
+    float near = 1.0f; ///< World units from the eye, as is `far`.
     float far = 8000.0f;
-    float fieldOfView = 90.0f; ///< A number, see `setPerspective`; no angle.
-    float aspect = 4.0f / 3.0f;
-    bool useProjection = true; ///< False: OpenGL gets the identity in its place.
-    bool useView = true;       ///< The same for the view.
+    float fieldOfView = 90.0f;  ///< A number, see `setPerspective`; no angle.
+    float aspect = 4.0f / 3.0f; ///< Width / height of the view.
+    bool useProjection = true;  ///< False: OpenGL gets the identity in its place.
+    bool useView = true;        ///< The same for the view.
     Vec3 back{0.0f, 0.0f, 1.0f};
     Vec3 right{4.0f / 3.0f, 0.0f, 0.0f};
     Vec3 up{0.0f, 1.0f, 0.0f};
@@ -35,8 +35,8 @@ public:
     /// Puts the eye at `newEye` and turns it to `target`, both in world space.
     void lookAt(const Vec3& newEye, const Vec3& target);
 
-    /// Hands both matrices to OpenGL, leaves the model-view matrix current and refreshes the
-    /// planes of the frustum.
+    /// Hands both matrices to the current OpenGL context, leaves the model-view matrix current and
+    /// refreshes the planes of the frustum.
     void loadIntoGl();
 
     /// Takes the frustum's planes out of projection x view, or with false out of the projection
@@ -48,5 +48,6 @@ public:
 extern Camera camera;
 
 /// Fits OpenGL, the camera and the shell's window size to a client area of `width` by `height`
-/// pixels. A height of 0 counts as 1 for the aspect ratio.
+/// pixels. A height of 0 counts as 1 for the aspect ratio. Without a current context OpenGL hears
+/// nothing of it, and the next call makes up for that.
 void resizeGlView(std::int32_t width, std::int32_t height);

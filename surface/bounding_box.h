@@ -26,6 +26,7 @@ struct BoundingBox {
     /// Takes the place of `other` in space, and keeps its own `lastCullingPlane`.
     constexpr void copyExtent(const BoundingBox& other) { corners = other.corners; }
 
-    /// True as well when the two only touch.
+    /// True as well when the two only touch. `NearbyBalls::enterOctant` works this out for all
+    /// balls and octants of a cell at once, and must come to the same bits.
     bool intersects(const Sphere& sphere) const;
 };

@@ -9,7 +9,7 @@
 class Drawable {
 public:
     zrk::String name;
-    Matrix4 transform;
+    Matrix4 transform; ///< Object to world space.
     std::uint32_t flags = 0;
 
     Drawable() = default;

@@ -36,6 +36,7 @@ public:
     /// `Cexception`.
     void begin(std::span<const Metaball> balls, const BoundingBox& region, std::uint32_t maxDepth);
 
+    /// The list of the cell being visited at `depth`, or of the one around it.
     std::span<const NearbyBall> at(std::uint32_t depth) const
     {
         return {lists.get() + std::size_t{depth} * ballCount, counts[depth]};

@@ -2,8 +2,6 @@
 
 #include "zrk/allocation.h"
 
-#include <cassert>
-
 constinit NodePool nodePool;
 
 void NodePool::resize(std::uint32_t newCapacity)
