@@ -41,6 +41,10 @@ void handle(int signal, void (*handler)(int))
     action.sa_flags = SA_RESTART; // reading a data file goes on where it was
     sigemptyset(&action.sa_mask);
     sigaction(signal, &action, nullptr);
+    sigset_t taken;
+    sigemptyset(&taken);
+    sigaddset(&taken, signal);
+    sigprocmask(SIG_UNBLOCK, &taken, nullptr);
 }
 
 // The timer, once it is set, raises SIGALRM.

@@ -13,7 +13,6 @@ namespace platform::x11 {
 
 namespace {
 
-constexpr GLint channelBits = 16;
 constexpr GLuint windowsOwn = 0; // the framebuffer that GLX made with the window
 
 // Puts the program's bindings back. In between there is no scissor test, which would cut copies.
@@ -58,6 +57,11 @@ GLint pixelParameter(GLenum name)
     return value;
 }
 
+constexpr GLint channelBits(GLenum format)
+{
+    return format == GL_RGBA8 ? 8 : 16;
+}
+
 // A renderbuffer of this format and size, or 0. Asking it what it became tells a refusal without
 // glGetError, which would take an error of the program away; that is only called to take back
 // the one that a refusal has raised.
@@ -69,7 +73,7 @@ GLuint makePixels(GLenum format, desktop::Size size)
     glRenderbufferStorage(GL_RENDERBUFFER, format, size.width, size.height);
     if (pixelParameter(GL_RENDERBUFFER_WIDTH) == size.width &&
         pixelParameter(GL_RENDERBUFFER_HEIGHT) == size.height &&
-        pixelParameter(GL_RENDERBUFFER_RED_SIZE) == channelBits)
+        pixelParameter(GL_RENDERBUFFER_RED_SIZE) == channelBits(format))
         return name;
     glDeleteRenderbuffers(1, &name);
     glGetError();
@@ -158,7 +162,7 @@ void BackBuffer::present() const
     if (drawTarget == 0)
         return;
     const BindingScope restored;
-    if (format == GL_RGBA16) {
+    if (format != GL_RGB16) {
         glBindFramebuffer(GL_DRAW_FRAMEBUFFER, copySource);
         clear(GL_FALSE);
     }

@@ -7,16 +7,17 @@
 namespace platform::x11 {
 
 /// What the program draws on in place of a window's own back buffer, whose picture GLX does not
-/// keep over a swap and whose 8 bits never fade to black. It has 16 bits a channel, no depth, and
-/// an alpha that reads 1. It belongs to the context that was current when it was made, goes with
+/// keep over a swap and whose 8 bits never fade to black. It has no depth, and an alpha that reads
+/// 1. It belongs to the context that was current when it was made, goes with
 /// it, and may be used only while that one is current.
 ///
 /// Every call leaves the program's OpenGL state as it was and no error of its own behind.
 class BackBuffer {
 public:
     /// Makes it black and binds it as the framebuffer to draw on and to read from, in place of
-    /// the window's. `wantedFormat` is GL_RGB16, or GL_RGBA16 for a driver that cannot draw on
-    /// that: its alpha is made 1 again by every `present`. False when the driver cannot do it.
+    /// the window's. `wantedFormat` is GL_RGB16, or for a driver that cannot draw on that GL_RGBA16
+    /// or at the worst GL_RGBA8: their alpha is made 1 again by every `present`. False when the
+    /// driver cannot do it.
     [[nodiscard]] bool create(desktop::Size size, GLenum wantedFormat);
 
     /// Changes the size. The picture stays at its lower left corner as far as it fits; what is

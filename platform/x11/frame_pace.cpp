@@ -27,13 +27,24 @@ Resources monitorResources(Display* display)
             &XRRFreeScreenResources};
 }
 
-// The mode of the monitor whose corner is the desktop's; 0 when none is.
+bool contains(const XRRCrtcInfo& monitor, int x, int y)
+{
+    return monitor.x <= x && x < monitor.x + static_cast<int>(monitor.width) && monitor.y <= y &&
+           y < monitor.y + static_cast<int>(monitor.height);
+}
+
+// The mode of the monitor that shows the middle of the desktop; 0 when none does.
 RRMode desktopMode(Display* display, XRRScreenResources& resources)
 {
-    const POINT corner = desktopArea(display).corner;
+    const DesktopArea desktop = desktopArea(display);
+    int x = desktop.corner.x + desktop.size.width / 2;
+    int y = desktop.corner.y + desktop.size.height / 2;
+    ::Window child = 0;
+    XTranslateCoordinates(display, desktop.parent, DefaultRootWindow(display), x, y, &x, &y,
+                          &child);
     for (const RRCrtc id : std::span(resources.crtcs, static_cast<std::size_t>(resources.ncrtc))) {
         const Controller crtc(XRRGetCrtcInfo(display, &resources, id), &XRRFreeCrtcInfo);
-        if (crtc && crtc->mode != 0 && crtc->x == corner.x && crtc->y == corner.y)
+        if (crtc && crtc->mode != 0 && contains(*crtc, x, y))
             return crtc->mode;
     }
     return 0;

@@ -114,7 +114,7 @@ bool chooseWindowFormat(Display* display, int screen, WindowFormat& result)
         glXGetVisualFromFBConfig(display, offered[best]));
     if (!info)
         return false;
-    result = {offered[best], info->visual, info->depth};
+    result = {offered[best], info->visual, info->depth, formats[best].swapCopies};
     return trap.firstError() == 0;
 }
 

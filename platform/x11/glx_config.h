@@ -12,6 +12,7 @@ struct WindowFormat {
     GLXFBConfig config = nullptr;
     Visual* visual = nullptr; ///< Belongs to the connection.
     int depth = 0;            ///< Of the visual, in bits a pixel.
+    bool swapCopies = false;  ///< The back buffer is certain to keep its picture over a swap.
 };
 
 /// The best configuration for the saver's window on this screen; false when the server has no GLX
@@ -25,7 +26,7 @@ struct FormatTraits {
     int depth = 0, stencil = 0, accumulation = 0;
     int samples = 0;
     bool slow = false;       ///< The driver says so itself.
-    bool swapCopies = false; ///< The back buffer is certain to keep its picture over a swap.
+    bool swapCopies = false; ///< As in `WindowFormat`.
 };
 
 /// The position of the best of them; their count when none may be used. A visual of 32 bits never

@@ -78,16 +78,18 @@ void prepareSwaps(Display* display, ::Window window)
 }
 
 // The picture of a context that was never current before, or else one that fits the window.
-void preparePicture(Context& context, desktop::Size size)
+void preparePicture(Context& context, const WindowRecord& window)
 {
+    const desktop::Size size = window.client;
     if (context.window != 0) {
         context.picture.fit(size);
         return;
     }
-    // Where neither can be had, the program draws on the window's own back buffer, which was
-    // chosen to keep its picture if any does.
+    // Where none can be had, the program draws on the window's own back buffer. One of 8 bits stops
+    // fading at a dim grey, but unlike that it keeps what it shows.
     [[maybe_unused]] const bool kept =
-        context.picture.create(size, GL_RGB16) || context.picture.create(size, GL_RGBA16);
+        context.picture.create(size, GL_RGB16) || context.picture.create(size, GL_RGBA16) ||
+        window.format.swapCopies || context.picture.create(size, GL_RGBA8);
 }
 
 bool leaveCurrent()
@@ -168,7 +170,7 @@ bool makeCurrent(NativeWindow window, NativeContext context)
     if (glXMakeCurrent(display, window, wanted.handle) == False || trap.firstError() != 0)
         return false;
     current = &wanted;
-    preparePicture(wanted, record->client);
+    preparePicture(wanted, *record);
     wanted.window = window;
     prepareSwaps(display, window);
     return true;

@@ -1,6 +1,7 @@
 #include "platform/desktop.h"
 #include "platform/x11/display.h"
 #include "platform/x11/host_window.h"
+#include "platform/x11/window.h"
 #include "platform/x11/window_manager.h"
 
 #include <FL/Fl.H>
@@ -45,6 +46,8 @@ private:
             const Atom above = atom(AtomName::netWmStateAbove);
             XChangeProperty(fl_display, fl_xid(this), atom(AtomName::netWmState), XA_ATOM, 32,
                             PropModeReplace, reinterpret_cast<const uchar*>(&above), 1);
+            if (const ::Window saver = shownWindow(); saver != 0) // a click there may raise it
+                XSetTransientForHint(fl_display, fl_xid(this), saver);
         }
         return Fl_Window::handle(event);
     }

@@ -38,7 +38,7 @@ WindowFormat windowFormat(Display* display)
     const int screen = DefaultScreen(display);
     WindowFormat format{};
     if (!chooseWindowFormat(display, screen, format))
-        format = {nullptr, DefaultVisual(display, screen), DefaultDepth(display, screen)};
+        format = {nullptr, DefaultVisual(display, screen), DefaultDepth(display, screen), false};
     return format;
 }
 
@@ -97,6 +97,13 @@ WindowRecord* windowOfUnreportedSize()
         return record.id != 0 && record.client != record.reportedSize;
     });
     return found == records.end() ? nullptr : &*found;
+}
+
+::Window shownWindow()
+{
+    const auto found = std::find_if(records.begin(), records.end(),
+                                    [](const WindowRecord& record) { return record.shown; });
+    return found == records.end() ? 0 : found->id;
 }
 
 void updateClientSize(Display* display, WindowRecord& record)

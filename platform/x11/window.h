@@ -26,6 +26,9 @@ struct WindowRecord {
 /// A window whose program does not know its size yet; null when there is none.
 [[nodiscard]] WindowRecord* windowOfUnreportedSize();
 
+/// One of our windows that has been shown; 0 when there is none.
+[[nodiscard]] ::Window shownWindow();
+
 /// Learns the client size that the server has for the window now, which a ConfigureNotify from
 /// before the last request would not say.
 void updateClientSize(Display* display, WindowRecord& record);

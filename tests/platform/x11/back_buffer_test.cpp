@@ -130,9 +130,11 @@ TEST_F(BackBuffer, KeepsThePictureOverAChangeOfSizeAsFarAsItFits)
 
 TEST_F(BackBuffer, ReadsAnAlphaOf1InAFormatWithAlphaToo)
 {
-    platform::x11::BackBuffer picture;
-    ASSERT_TRUE(picture.create({100, 100}, GL_RGBA16));
-    fill(0.0f, 0.0f, 1.0f);
-    picture.present();
-    EXPECT_EQ(pixelAt(99, 99), (Pixel{0, 0, 255, 255}));
+    for (const GLenum format : std::initializer_list<GLenum>{GL_RGBA16, GL_RGBA8}) {
+        platform::x11::BackBuffer picture;
+        ASSERT_TRUE(picture.create({100, 100}, format));
+        fill(0.0f, 0.0f, 1.0f);
+        picture.present();
+        EXPECT_EQ(pixelAt(99, 99), (Pixel{0, 0, 255, 255}));
+    }
 }

@@ -59,6 +59,14 @@ TEST_F(MessageDialog, ShowsTheTextAboveTheSaverUntilItIsClosedInAnyUsualWay)
         XTranslateCoordinates(server, focus(), box.root, 0, 0, &box.x, &box.y, &child);
         EXPECT_GT(box.height, box.width); // there are lines
         ASSERT_TRUE(User::waitUntil([&] { return showsLetters(user, box); }));
+        const Window shown = focus();
+        user.moveTo(5, 5); // on the saver, which the manager raises then
+        user.click(1);
+        ASSERT_TRUE(User::waitUntil([&] { return focus() != shown; }));
+        EXPECT_TRUE(User::waitUntil([&] { return showsLetters(user, box); }));
+        user.moveTo(box.x + 5, box.y + 5);
+        user.click(1);
+        ASSERT_TRUE(User::waitUntil([&] { return focus() == shown; }));
         constexpr int buttonsMiddle = 30; // above the lower edge
         user.moveTo(box.x + box.width / 2, box.y + box.height - buttonsMiddle);
         close();
