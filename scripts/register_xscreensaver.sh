@@ -2,7 +2,7 @@
 # Adds the saver to the list in a user's ~/.xscreensaver, once, or takes it out again.
 set -eu
 
-settings="${XSCREENSAVER_SETTINGS:-$HOME/.xscreensaver}"
+settings=$(readlink -f -- "${XSCREENSAVER_SETTINGS:-$HOME/.xscreensaver}") # a link stays one
 entry='  GL: "Quazo"  quazo /s  \n\'
 
 is_registered()
@@ -30,7 +30,12 @@ with_entry()
 
 with_entry_in_list()
 {
-    ENTRY="$entry" awk '{ print } /^programs:/ { print ENVIRON["ENTRY"] }' "$settings"
+    # At its end: the saver that the user has chosen is known by its place in the list.
+    ENTRY="$entry" awk '
+        /^programs:/ { inside = 1; print; next }
+        inside && !/\\$/ { print ENVIRON["ENTRY"]; inside = 0 }
+        { print }
+        END { if (inside) print ENVIRON["ENTRY"] }' "$settings"
 }
 
 without_entry()

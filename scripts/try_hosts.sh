@@ -74,9 +74,17 @@ check()
 
 no_saver_runs || fail "a saver runs already"
 cmake --install build/release --prefix "$scratch/usr" >/dev/null
-XSCREENSAVER_SETTINGS="$scratch/home/.xscreensaver" scripts/register_xscreensaver.sh add
-printf 'mode: one\nselected: 0\nlock: False\nsplash: False\n' >>"$scratch/home/.xscreensaver"
+cat >"$scratch/home/.xscreensaver" <<'END'
+mode: one
+selected: 1
+lock: False
+splash: False
+programs: \
+  GL: "Other" false \n\
+
+END
 chmod 644 "$scratch/home/.xscreensaver"
+XSCREENSAVER_SETTINGS="$scratch/home/.xscreensaver" scripts/register_xscreensaver.sh add
 
 exec 3<>"$scratch/number"
 Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp 2>"$scratch/home/Xvfb.log" &
