@@ -19,7 +19,7 @@ void noteKey(WPARAM virtualKey, bool down)
         keyDown[virtualKey] = down;
 }
 
-// The message's own coordinates are the window's, and old by the time we read them.
+// On the screen; the message's own coordinates are in the window.
 void trackCursor()
 {
     POINT position;

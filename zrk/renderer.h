@@ -35,8 +35,8 @@ public:
 
     /// Clears what `clearMask` names, then draws a black quad of opacity `alpha` over the whole
     /// viewport. With the blend function (GL_ONE, GL_ONE_MINUS_SRC_ALPHA) the picture is left at
-    /// 1 - `alpha` of its brightness. No unit textures the quad. Afterwards the model-view matrix is current, depth testing
-    /// is on, and the current colour is (0, 0, 0, `alpha`).
+    /// 1 - `alpha` of its brightness. No unit textures the quad. Afterwards the model-view matrix
+    /// is current, depth testing is on, and the current colour is (0, 0, 0, `alpha`).
     void fadeScreen(float alpha, GLbitfield clearMask);
 
     /// Writes one line about `code`, a result of `glGetError`, to standard error.
