@@ -58,7 +58,7 @@ int main(int argumentCount, char** arguments)
 {
     benchmark::Initialize(&argumentCount, arguments);
     const VirtualDisplay display;
-    const GlTestContext context(800, 600);
+    const GlTestContext context({800, 600});
     glEnable(GL_CULL_FACE);
     glCullFace(GL_FRONT_AND_BACK);
     surface_world::seeWindow(800.0f / 600.0f);

@@ -87,7 +87,8 @@ TEST_F(Saver, GoesOnThroughWhatIsNoReasonToEnd)
     EXPECT_EQ(saver.wait(), 0);
 }
 
-TEST_F(Saver, CoversTheScreenButForItsLastRow)
+// Blobs leave black around them, filaments shine, and what moved away has left a dim trail.
+TEST_F(Saver, CoversTheScreenButForItsLastRowWithGlowingBlobs)
 {
     ChildProcess saver = quazo({"/S"});
     const Window window = running(saver);
@@ -97,13 +98,6 @@ TEST_F(Saver, CoversTheScreenButForItsLastRow)
     EXPECT_EQ(place.y, 0);
     EXPECT_EQ(place.width, 1024);
     EXPECT_EQ(place.depth, 24); // a visual with alpha would let the desktop shine through
-}
-
-// Blobs leave black around them, filaments shine, and what moved away has left a dim trail.
-TEST_F(Saver, ShowsGlowingBlobsOnBlack)
-{
-    ChildProcess saver = quazo({"/s"});
-    running(saver);
     ASSERT_TRUE(User::waitUntil([&] { return isLit(160); }));
     const User::Picture picture = user.look();
     int dark = 0;

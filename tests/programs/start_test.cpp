@@ -36,23 +36,21 @@ protected:
     }
 };
 
-TEST_F(Start, ShowsTheAboutBox)
+TEST_F(Start, ShowsTheAboutBoxUntilAKeyOrASignal)
 {
-    for (const std::vector<std::string>& arguments :
-         {std::vector<std::string>{}, {"/c"}, {"/c:1234"}, {"cs"}}) {
-        ChildProcess program = quazo(arguments);
-        EXPECT_EQ(statusAfterBox(program, XK_Return), 0);
-    }
+    ChildProcess program = quazo({});
+    EXPECT_EQ(statusAfterBox(program, XK_Return), 0);
+    ChildProcess signalled = quazo({"/c:1234"});
+    ASSERT_TRUE(User::waitUntil([&] { return hasFocus(); }));
+    signalled.signal(SIGTERM);
+    EXPECT_EQ(signalled.wait(), 0);
 }
 
 TEST_F(Start, QuitsSilently)
 {
-    for (const std::vector<std::string>& arguments :
-         {std::vector<std::string>{"/C"}, {"/p", "1234"}, {"/a"}, {"--help"}}) {
-        ChildProcess program = quazo(arguments);
-        EXPECT_EQ(program.wait(), 0);
-        EXPECT_EQ(program.standardOutput() + program.standardError(), "");
-    }
+    ChildProcess program = quazo({"/p", "1234"});
+    EXPECT_EQ(program.wait(), 0);
+    EXPECT_EQ(program.standardOutput() + program.standardError(), "");
 }
 
 struct BrokenData {
@@ -89,14 +87,6 @@ TEST_F(Start, NamesWhatIsWrongWithTheDataAndEndsWithStatusOne)
         EXPECT_EQ(statusAfterBox(program, XK_Escape), 1);
         EXPECT_EQ(program.standardOutput(), broken.log);
     }
-}
-
-TEST_F(Start, ASignalEndsABoxToo)
-{
-    ChildProcess program = quazo({"/c"});
-    ASSERT_TRUE(User::waitUntil([&] { return hasFocus(); }));
-    program.signal(SIGTERM);
-    EXPECT_EQ(program.wait(), 0);
 }
 
 TEST_F(Start, WithoutADisplaySaysSoOnStandardError)

@@ -1,20 +1,25 @@
 #pragma once
 
-// The names of X11 would get in the way of a test: it needs none of them.
-struct _XDisplay;
-struct __GLXcontextRec;
+#include "platform/desktop.h"
 
-/// A current OpenGL context that draws into a picture of its own, on the display that `DISPLAY`
-/// names. Throws `std::runtime_error` when there can be none.
+#include <cstdio>
+#include <cstdlib>
+
+/// A current OpenGL context that draws for a window that is never shown, on the display that
+/// `DISPLAY` names. Without one there is nothing to go on with: it ends the program with status 1.
+/// Link platform_x11.
 class GlTestContext {
 public:
-    GlTestContext(int width, int height);
+    explicit GlTestContext(platform::desktop::Size size)
+    {
+        using namespace platform::desktop;
+        const NativeWindow window = createWindow("", 0, 0, size);
+        if (makeCurrent(window, createContext(window)))
+            return;
+        std::fputs("no OpenGL to test with\n", stderr);
+        std::exit(1);
+    }
     GlTestContext(const GlTestContext&) = delete;
     GlTestContext& operator=(const GlTestContext&) = delete;
-    ~GlTestContext();
-
-private:
-    _XDisplay* display;
-    unsigned long picture = 0; // an X resource
-    __GLXcontextRec* context = nullptr;
+    ~GlTestContext() { platform::desktop::disconnect(); }
 };

@@ -85,7 +85,7 @@ Pixel shownPixel()
 /// Real OpenGL of two units, and two textures of one pixel.
 struct RealGl : testing::Test {
     VirtualDisplay display;
-    GlTestContext context{64, 64};
+    GlTestContext context{{64, 64}};
     TexturePool textures;
 
     RealGl()
