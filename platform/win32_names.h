@@ -153,6 +153,9 @@ constexpr LPARAM MAKELPARAM(WORD low, WORD high)
     return static_cast<LPARAM>(low | (static_cast<std::uintptr_t>(high) << 16));
 }
 
+// With C linkage, as the system's own have.
+extern "C" {
+
 // Process.
 HMODULE GetModuleHandleA(LPCSTR moduleName);
 UINT GetWindowsDirectoryA(LPSTR buffer, UINT size);
@@ -202,3 +205,5 @@ PROC wglGetProcAddress(LPCSTR name);
 
 /// The program's entry, which platform/entry.cpp calls with the arguments joined by blanks.
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR commandLine, int showCommand);
+
+} // extern "C"

@@ -81,10 +81,10 @@ protected:
 
 extern "C" {
 
-HDC __real__Z5GetDCP6HWND__(HWND window);
-HDC __wrap__Z5GetDCP6HWND__(HWND window)
+HDC __real_GetDC(HWND window);
+HDC __wrap_GetDC(HWND window)
 {
-    const HDC real = __real__Z5GetDCP6HWND__(failing == "ReleaseDC" ? nullptr : window);
+    const HDC real = __real_GetDC(failing == "ReleaseDC" ? nullptr : window);
     newestWindow = window == nullptr ? newestWindow : window;
     return failing == "GetDC" ? nullptr : real;
 }
