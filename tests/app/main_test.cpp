@@ -1,3 +1,4 @@
+#include "app/metaball_motion.h"
 #include "app/scene.h"
 #include "app/shell_state.h"
 #include "app/window_procedure.h"
@@ -13,7 +14,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
+#include <bit>
 #include <cmath>
+#include <ctime>
 #include <memory>
 #include <span>
 
@@ -23,6 +27,8 @@ namespace {
 
 std::string failing; // a call that no desktop makes fail
 HWND newestWindow = nullptr;
+WNDCLASSA registeredClass{};
+PIXELFORMATDESCRIPTOR wantedFormat{};
 
 std::string joined(const std::vector<std::string>& lines)
 {
@@ -38,7 +44,10 @@ protected:
     Shell()
     {
         const std::string rest = ", linear, linear, clamp, clamp, modulate, <0, 0, 0, 0>\n}\n";
-        windows.write("###quazo!_data###/caustics.qvd", "textures\nshaders\n");
+        std::string here; // a name may be longer than most buffers
+        while (here.size() < 2000)
+            here += "./";
+        windows.write("###quazo!_data###/caustics.qvd", here + "textures\nshaders\n");
         windows.write("textures", "3\ndot.ppm\ndot.ppm\ndot.ppm\n");
         windows.write("dot.ppm", "P6 1 1 255\nabc");
         windows.write("shaders", "a\n{\ntexture: 0" + rest + "b\n{\ntexture: 1" + rest +
@@ -89,6 +98,20 @@ HDC __wrap_GetDC(HWND window)
     return failing == "GetDC" ? nullptr : real;
 }
 
+ATOM __real_RegisterClassA(const WNDCLASSA* windowClass);
+ATOM __wrap_RegisterClassA(const WNDCLASSA* windowClass)
+{
+    registeredClass = *windowClass;
+    return __real_RegisterClassA(windowClass);
+}
+
+int __real_ChoosePixelFormat(HDC deviceContext, const PIXELFORMATDESCRIPTOR* descriptor);
+int __wrap_ChoosePixelFormat(HDC deviceContext, const PIXELFORMATDESCRIPTOR* descriptor)
+{
+    wantedFormat = *descriptor;
+    return __real_ChoosePixelFormat(deviceContext, descriptor);
+}
+
 void __wrap_SDL_Quit()
 {
     gl_recorder::note("SDL_Quit");
@@ -118,11 +141,11 @@ TEST_F(Shell, OpensCoversDrawsAndClosesInOrder)
     gl_recorder::setExtensions("GL_ARB_multitexture_more  GL_ARB_multitexture GL_EXT_fog");
     gl_recorder::answer(GL_MAX_TEXTURE_UNITS, 2);
     play(0);
-    play(WM_KEYDOWN, VK_TAB); // held to the end
-    play(0);
-    play(0);
-    play(WM_ACTIVATE, 0x10000); // minimised
-    play(WM_SIZE, SIZE_RESTORED, MAKELPARAM(40000, 30000));
+    play(WM_KEYDOWN, VK_TAB);
+    play(WM_KEYUP, VK_TAB); // too short to hold the balls
+    play(WM_ACTIVATE, WA_INACTIVE);
+    const int shownBefore = ShowCursor(FALSE);
+    const std::time_t start = std::time(nullptr);
     EXPECT_EQ(run(), 3u);
     EXPECT_EQ(joined(headless_desktop::takeRequests()),
               "createWindow(\"quazo! screen saver v1e-32 beta\", 0, 0, 800, 600); "
@@ -130,12 +153,52 @@ TEST_F(Shell, OpensCoversDrawsAndClosesInOrder)
               "createContext(1); makeCurrent(1, 1); showWindow(1); raiseWindow(1); "
               "focusWindow(1); setScreenSaverRunning(true); size(); size(); "
               "placeWindow(1, 0, 0, 1024, 767, topmost); glProcedure(glActiveTextureARB); "
-              "swapBuffers(1); swapBuffers(1); swapBuffers(1); swapBuffers(1); "
+              "swapBuffers(1); swapBuffers(1); "
               "makeCurrent(0, 0); deleteContext(1); destroyWindow(1); "
               "setScreenSaverRunning(false); ");
+    EXPECT_EQ(animationTime, 0.01f + 0.01f + 0.01f);
+    EXPECT_EQ(zrk::renderer.textureUnits, 2u);
+    EXPECT_EQ(ShowCursor(TRUE), shownBefore - 2 + 1); // the saver hides it twice
+    // The window's sizes: made, shown, with its context, and covering the screen.
+    std::vector<std::string> views = gl_recorder::takeCalls();
+    std::erase_if(views, [](const std::string& call) { return !call.starts_with("glViewport"); });
+    const std::string first = "glViewport(0, 0, 800, 600)";
+    EXPECT_THAT(views, testing::ElementsAre(first, first, first, "glViewport(0, 0, 1024, 767)"));
+    // Seeded with the time: the first draw is the first ball's amplitude along x.
+    const float drawn = amplitudes[0].x;
+    std::vector<float> firstDraws;
+    for (std::time_t second = start; second <= std::time(nullptr); ++second) {
+        std::srand(static_cast<unsigned>(second));
+        firstDraws.push_back(static_cast<float>(std::rand() % 32768) * (800.0f / 32768.0f));
+    }
+    EXPECT_THAT(firstDraws, testing::Contains(drawn));
+}
+
+TEST_F(Shell, AsksForAClassOfItsOwnContextAndAFormatOfColourAlone)
+{
+    run();
+    EXPECT_EQ(registeredClass.style, 0x23u);
+    EXPECT_EQ(registeredClass.lpfnWndProc, &glWindowProc);
+    EXPECT_STREQ(registeredClass.lpszClassName, "OpenGL");
+    EXPECT_EQ(registeredClass.hbrBackground, nullptr);
+    EXPECT_EQ(std::pair(registeredClass.hCursor, registeredClass.hIcon),
+              std::pair(LoadCursorA(nullptr, IDC_ARROW), LoadIconA(nullptr, IDI_WINLOGO)));
+    // Size, version, flags, RGBA and 32 bits of colour, byte by byte; the rest is nothing.
+    const std::array<unsigned char, 40> colourAlone{40, 0, 1, 0, 0x25, 0, 0, 0, 0, 32};
+    EXPECT_EQ((std::bit_cast<std::array<unsigned char, 40>>(wantedFormat)), colourAlone);
+}
+
+TEST_F(Shell, SwapsAndHoldsTheBallsAlsoWhileItIsMinimised)
+{
+    play(0);
+    play(WM_ACTIVATE, 0x10000);
+    play(WM_SIZE, SIZE_RESTORED, MAKELPARAM(40000, 30000));
+    play(WM_KEYDOWN, VK_TAB);
+    EXPECT_EQ(run(), 1u);
+    EXPECT_THAT(joined(headless_desktop::takeRequests()),
+                testing::HasSubstr("; swapBuffers(1); swapBuffers(1); makeCurrent(0, 0); "));
     EXPECT_EQ(animationTime, 0.0f);
     EXPECT_EQ(windowWidth, 40000);
-    EXPECT_EQ(zrk::renderer.textureUnits, 2u);
 }
 
 TEST_F(Shell, ReportsEveryStepThatFails)
@@ -252,6 +315,9 @@ TEST_F(Shell, FadesColoursAndAppliesTheShaderOfTheFrameNumber)
 
 TEST_F(Shell, EndsWithABoxWithoutAShader)
 {
+    EXPECT_EQ(zrk::libraryData.loadData("missing", nullptr), 1);
+    windows.write("broken", "missing\n");
+    EXPECT_EQ(zrk::libraryData.loadData("broken", nullptr), 1);
     windows.write("shaders", "");
     const auto startTelling = [] {
         std::atexit([] { std::fputs(headless_desktop::takeRequests()[0].c_str(), stderr); });
