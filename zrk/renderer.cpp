@@ -4,8 +4,9 @@
 
 #include <SDL.h>
 
-#include <array>
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
 
 namespace zrk {
 
@@ -18,11 +19,18 @@ struct Corner {
 
 constexpr Corner viewCorners[] = {{-1, -1}, {1, -1}, {1, 1}, {-1, 1}}; // clip space
 
-// By code, from GL_INVALID_ENUM on.
-constexpr std::array glErrorTexts = {
-    "GLenum argument out of range.",          "numeric argument out of range.",
-    "operation illegal in current state.",    "command would cause a stack overflow.",
-    "command would cause a stack underflow.", "not enough memory left to execute command.",
+struct GlErrorText {
+    GLenum code;
+    const char* text;
+};
+
+constexpr GlErrorText glErrorTexts[] = {
+    {GL_INVALID_ENUM, "GLenum argument out of range."},
+    {GL_INVALID_VALUE, "numeric argument out of range."},
+    {GL_INVALID_OPERATION, "operation illegal in current state."},
+    {GL_STACK_OVERFLOW, "command would cause a stack overflow."},
+    {GL_STACK_UNDERFLOW, "command would cause a stack underflow."},
+    {GL_OUT_OF_MEMORY, "not enough memory left to execute command."},
 };
 
 // Whichever units a shader has left enabled or selected. The attribute stack brings both back.
@@ -66,8 +74,8 @@ void Renderer::fadeScreen(float alpha, GLbitfield clearMask)
 
 void Renderer::reportGlError(GLenum code)
 {
-    const GLenum position = code - GL_INVALID_ENUM;
-    const char* text = position < glErrorTexts.size() ? glErrorTexts[position] : "unknown error.";
+    const auto* known = std::ranges::find(glErrorTexts, code, &GlErrorText::code);
+    const char* text = known != std::end(glErrorTexts) ? known->text : "unknown error.";
     std::fprintf(stderr, "OpenGL error code %u : %s\n", code, text);
     std::fflush(stderr);
 }
