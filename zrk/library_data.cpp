@@ -33,16 +33,16 @@ std::int32_t LibraryData::loadData(const char* fileName, std::ostream* log)
     }
     LineBuffer line;
     readName(file, line);
-    const char* pool = "textures";
+    const char* failure = "Error loading textures pool file : '";
     std::int32_t result = textures.load(line.data(), log);
     if (result == 0) {
         readName(file, line);
-        pool = "shaders";
+        failure = "Error loading shaders pool file : '";
         result = static_cast<std::int32_t>(shaders.load(line.data(), nullptr));
     }
     std::fclose(file);
     if (result != 0 && log != nullptr)
-        *log << "Error loading " << pool << " pool file : '" << line.data() << "'\n" << std::flush;
+        *log << failure << line.data() << "'\n" << std::flush;
     return result;
 }
 
