@@ -1,6 +1,7 @@
 #include "platform/message_queue.h"
 
 #include "platform/desktop.h"
+#include "platform/held_releases.h"
 #include "platform/signals.h"
 #include "platform/windows.h"
 
@@ -13,6 +14,7 @@ namespace platform {
 namespace {
 
 constinit std::optional<MSG> waiting; // looked at, but not removed
+constinit HeldReleases heldReleases;
 constinit std::optional<int> quitCode;
 constinit bool closeAsked = false;             // by a signal, and told
 constinit const POINT* handledPlace = nullptr; // of the mouse message being dispatched
@@ -43,16 +45,31 @@ bool sentAtOnce(HWND window, const desktop::Message& message)
     }
 }
 
-std::optional<MSG> nextFromDesktop()
+// Takes one message of the desktop in; false when none waits there.
+bool takeFromDesktop()
 {
     desktop::Message message;
-    while (desktop::nextMessage(message)) {
-        const HWND window = handleOf(message.window);
-        const bool gone = window == nullptr; // it has been destroyed since
-        if (!gone && !sentAtOnce(window, message))
-            return MSG{window, message.message, message.wParam, message.lParam, 0, message.pointer};
+    if (!desktop::nextMessage(message))
+        return false;
+    const HWND window = handleOf(message.window);
+    const bool gone = window == nullptr; // it has been destroyed since
+    if (!gone && !sentAtOnce(window, message))
+        heldReleases.add(
+            {window, message.message, message.wParam, message.lParam, 0, message.pointer});
+    return true;
+}
+
+std::optional<MSG> nextFromDesktop()
+{
+    for (;;) {
+        if (std::optional<MSG> message = heldReleases.next())
+            return message;
+        if (takeFromDesktop())
+            continue;
+        heldReleases.endBatch();
+        // Before a quit nothing stays behind: there will be no other batch.
+        return quitCode ? heldReleases.next() : std::nullopt;
     }
-    return std::nullopt;
 }
 
 // The quit comes only when nothing else waits, and once.

@@ -8,7 +8,6 @@
 #include <X11/Xutil.h>
 
 #include <algorithm>
-#include <bitset>
 #include <iterator>
 
 namespace platform::x11 {
@@ -18,9 +17,6 @@ namespace {
 using desktop::Message;
 
 constexpr int altKey = 0x12;
-
-// The keys, by keycode, whose press was told since nothing waited the last time.
-constinit std::bitset<256> justPressed;
 
 Message plainMessage(const WindowRecord& record, UINT kind, WPARAM wParam, LPARAM lParam)
 {
@@ -57,16 +53,8 @@ bool onKey(WindowRecord& record, const XEvent& event, Message& result)
     const bool system = code == altKey || (event.xkey.state & Mod1Mask) != 0;
     const UINT pressKind = system ? WM_SYSKEYDOWN : WM_KEYDOWN;
     const UINT releaseKind = system ? WM_SYSKEYUP : WM_KEYUP;
-    justPressed.set(event.xkey.keycode, !released);
     result = plainMessage(record, released ? releaseKind : pressKind, static_cast<WPARAM>(code), 1);
     return true;
-}
-
-// A key may go down and up within one frame. Its release waits until the program has looked at its
-// keys once, and what came after the release waits with it: no tap is too short to be seen.
-bool endsTap(const XEvent& event)
-{
-    return event.type == KeyRelease && justPressed.test(event.xkey.keycode);
 }
 
 struct ButtonMessages {
@@ -209,18 +197,13 @@ bool platform::desktop::nextMessage(Message& result)
         return false;
     XEvent event;
     while (XPending(display) > 0) {
-        XPeekEvent(display, &event);
-        if (endsTap(event))
-            break;
         XNextEvent(display, &event);
         if (translate(event, result))
             return true;
     }
     WindowRecord* const resized = windowOfUnreportedSize();
-    if (resized == nullptr) {
-        justPressed.reset();
+    if (resized == nullptr)
         return false;
-    }
     resized->reportedSize = resized->client;
     result = plainMessage(*resized, WM_SIZE, SIZE_RESTORED,
                           MAKELPARAM(static_cast<WORD>(resized->client.width),

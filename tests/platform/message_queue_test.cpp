@@ -21,6 +21,24 @@ TEST_F(MessageQueue, GivesInputInOrderAndTheQuitLastAndOnce)
     EXPECT_TRUE(DestroyWindow(window));
 }
 
+// A program that looks at its keys whenever nothing waits sees each of them down once.
+TEST_F(MessageQueue, HoldsBackATapsReleaseAndNothingElse)
+{
+    for (const UINT message : {WM_KEYDOWN, WM_KEYUP, WM_KEYDOWN, WM_KEYUP})
+        play(message, VK_TAB);
+    play(WM_SYSKEYDOWN, VK_ESCAPE);
+    play(WM_SYSKEYUP, VK_ESCAPE);
+    play(WM_LBUTTONDOWN);
+    EXPECT_THAT(takeSent(), ElementsAre(Sent{WM_KEYDOWN, VK_TAB}, Sent{WM_KEYUP, VK_TAB},
+                                        Sent{WM_KEYDOWN, VK_TAB}, Sent{WM_SYSKEYDOWN, VK_ESCAPE},
+                                        Sent{WM_LBUTTONDOWN, 0}));
+    play(WM_KEYDOWN, 'A'); // a longer press
+    EXPECT_THAT(takeSent(), ElementsAre(Sent{WM_KEYUP, VK_TAB}, Sent{WM_SYSKEYUP, VK_ESCAPE},
+                                        Sent{WM_KEYDOWN, 'A'}));
+    play(WM_KEYUP, 'A');
+    EXPECT_THAT(takeSent(), ElementsAre(Sent{WM_KEYUP, 'A'}));
+}
+
 TEST_F(MessageQueue, SendsASizeAtOnceAndDropsWhatIsForADestroyedWindow)
 {
     const HWND other = create();
