@@ -25,22 +25,21 @@ void readName(std::FILE* file, LineBuffer& line)
 
 std::int32_t LibraryData::loadData(const char* fileName, std::ostream* log)
 {
-    std::FILE* const file = openTextFile(fileName);
-    if (file == nullptr) {
+    const OwnedFile file = openTextFile(fileName);
+    if (!file) {
         if (log != nullptr)
             *log << "Cannot open file\"" << fileName << "\"\n" << std::flush;
         return 1;
     }
     LineBuffer line;
-    readName(file, line);
+    readName(file.get(), line);
     const char* failure = "Error loading textures pool file : '";
     std::int32_t result = textures.load(line.data(), log);
     if (result == 0) {
-        readName(file, line);
+        readName(file.get(), line);
         failure = "Error loading shaders pool file : '";
         result = static_cast<std::int32_t>(shaders.load(line.data(), nullptr));
     }
-    std::fclose(file);
     if (result != 0 && log != nullptr)
         *log << failure << line.data() << "'\n" << std::flush;
     return result;

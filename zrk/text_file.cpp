@@ -20,13 +20,17 @@ bool isDirectory(std::FILE* file)
 
 } // namespace
 
-std::FILE* openTextFile(const char* fileName)
+OwnedFile openTextFile(const char* fileName)
 {
-    std::FILE* const file = fileName != nullptr ? std::fopen(fileName, "r") : nullptr;
-    if (file == nullptr || !isDirectory(file))
-        return file;
-    std::fclose(file);
-    return nullptr;
+    OwnedFile file(fileName != nullptr ? std::fopen(fileName, "r") : nullptr);
+    if (file && isDirectory(file.get()))
+        file.reset();
+    return file;
+}
+
+bool closeFile(OwnedFile file)
+{
+    return std::fclose(file.release()) == 0;
 }
 
 int readCharacter(std::FILE* file)

@@ -20,11 +20,10 @@ TEST(TextFile, GivesLinesOfATextModeStream)
     const TemporaryDirectory directory;
     for (const auto& [contents, expected] : cases) {
         directory.write("text", contents);
-        std::FILE* const file = zrk::openTextFile("text");
+        const zrk::OwnedFile file = zrk::openTextFile("text");
         std::string lines = "|";
-        for (std::array<char, 5> line; zrk::readLine(file, line);)
+        for (std::array<char, 5> line; zrk::readLine(file.get(), line);)
             lines += line.data() + std::string("|");
         EXPECT_EQ(lines, expected);
-        std::fclose(file);
     }
 }

@@ -21,9 +21,10 @@ Shader& Shader::operator=(const Shader& other)
 {
     if (this == &other)
         return *this;
-    name = other.name;
-    layerPointers = newArray<ShaderLayer*>(other.layerCount);
-    std::ranges::copy(other.layers(), layerPointers.get());
+    std::unique_ptr<ShaderLayer*[]> pointers = newArray<ShaderLayer*>(other.layerCount);
+    std::ranges::copy(other.layers(), pointers.get());
+    name = other.name; // the last step that may fail
+    layerPointers = std::move(pointers);
     layerCount = other.layerCount;
     hasBlend = other.hasBlend;
     hasTexture = other.hasTexture;

@@ -23,7 +23,8 @@ public:
     /// The first shader of the process also makes the parser's `lineBuffer`.
     Shader();
 
-    /// Shares the layers, which the `layerRegistry` owns, and copies everything else.
+    /// Shares the layers, which the `layerRegistry` owns, and copies everything else. No memory is
+    /// `Cexception` and leaves the shader as it was.
     Shader& operator=(const Shader& other);
     Shader(const Shader&) = delete;
 

@@ -43,11 +43,11 @@ ShaderResult ShaderPool::load(const char* name, std::FILE* log)
 {
     if (log != nullptr)
         std::fprintf(log, "Loading %s... ", name);
-    std::FILE* file = openTextFile(name);
-    if (file == nullptr)
+    OwnedFile file = openTextFile(name);
+    if (!file)
         return report(ShaderResult::cannotOpenFile, log);
-    const ShaderResult result = readShaders(file, log);
-    if (std::fclose(file) != 0)
+    const ShaderResult result = readShaders(file.get(), log);
+    if (!closeFile(std::move(file)))
         return report(ShaderResult::cannotCloseFile, log);
     if (result != ShaderResult::ok)
         return result;

@@ -1,6 +1,7 @@
 #include "zrk/textures/texture.h"
 
 #include "zrk/renderer.h"
+#include "zrk/text_file.h"
 #include "zrk/textures/rgba32_format.h"
 
 #include <SDL_image.h>
@@ -15,17 +16,15 @@ namespace zrk {
 
 namespace {
 
-constexpr int sizeLimit = 65536; // pixels in a direction; from here on 16.16 steps overflow
-
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
+// Pixels in a direction; from here on 16.16 steps overflow. SDL 1.2 itself makes no image of 16384
+// columns or 65536 rows; an SDL that stands in for it may.
+constexpr int sizeLimit = 65536;
 
 // The PNG decoder does not notice the end of a file: in one that is cut off before its image data
 // it reads the same bytes over and over, for ever. Such a file is not shown to it.
 bool isPngWithoutImage(const char* name)
 {
-    const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(name, "rb"));
+    const OwnedFile file(std::fopen(name, "rb"));
     unsigned char bytes[8];
     if (!file || std::fread(bytes, 1, 8, file.get()) != 8 ||
         std::memcmp(bytes, "\x89PNG\r\n\x1a\n", 8) != 0)

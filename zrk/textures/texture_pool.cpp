@@ -138,15 +138,14 @@ std::int32_t readTextures(PoolReader& reader, TexturePool& pool, std::ostream* l
 
 std::int32_t TexturePool::load(const char* name, std::ostream* log)
 {
-    std::FILE* const file = openTextFile(name);
-    if (file == nullptr) {
+    OwnedFile file = openTextFile(name);
+    if (!file) {
         report(cannotOpenFile, name, log);
         return cannotOpenFile;
     }
-    PoolReader reader(file);
+    PoolReader reader(file.get());
     std::int32_t result = readTextures(reader, *this, log);
-    const bool closed = std::fclose(file) == 0;
-    if (!closed && result != unknownOption && result != cannotConvert)
+    if (!closeFile(std::move(file)) && result != unknownOption && result != cannotConvert)
         result = cannotCloseFile;
     if (result == loaded)
         fileName = name;
