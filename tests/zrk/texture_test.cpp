@@ -51,7 +51,7 @@ TEST(TextureLoad, ShrinksToTheNearestSourcePixel)
         ASSERT_EQ(shrunk[i], 0xff000000u | (y & 255) << 16 | x); // what is shrunk is opaque
     }
     EXPECT_THAT(
-        load<std::uint8_t>(texture, "image.pgm", "P5 1024 1 255\n" + std::string(1024, '\x07')),
+        load<std::uint8_t>(texture, "image.pgm", "P5 16383 1 255\n" + std::string(16383, '\x07')),
         testing::AllOf(testing::SizeIs(512), testing::Each(7)));
     EXPECT_EQ(texture.surface->format->palette->colors[7].r, 7);
     load<std::uint8_t>(texture, "image.xpm",
@@ -67,12 +67,14 @@ TEST(TextureLoad, RefusesWithOneLineAndChangesNothing)
     const auto pixels = load<std::uint32_t>(texture, "image.tga", targa(1, 1, "abcd"));
     const TemporaryDirectory directory;
     directory.write("short.pgm", "P5 2 2 255\nabc");
-    directory.write("wide.pgm", "P5 65536 1 255\n" + std::string(65536, 'x'));
+    directory.write("wide.pgm", "P5 16384 1 255\n" + std::string(16384, 'x'));
+    directory.write("high.pgm", "P5 1 65536 255\n" + std::string(65536, 'x'));
     // Ends within a chunk before the image data, where the decoder would never stop.
     directory.write("short.png", "\x89PNG\r\n\x1a\n\0\0\0\x0dIHDR\0\0\0\3\0\0\0\2\x08\2\0\0\0"
                                  "\x12\x16\xf1\x4d\0\0\0\x20"
                                  "cHRM\0\0\x7a\x26\0\0\x80\x84"s);
-    for (const std::string name : {"missing.tga", "short.pgm", "wide.pgm", "short.png", ""}) {
+    for (const std::string name :
+         {"missing.tga", "short.pgm", "wide.pgm", "high.pgm", "short.png", ""}) {
         std::ostringstream log;
         EXPECT_EQ(texture.load(name.c_str(), &log), -1);
         EXPECT_EQ(log.str(), "Error: cannot load image '" + name + "'\n");

@@ -43,9 +43,10 @@ public:
 
     /// Decodes the image file `name` (null is no file), converts anything but 8-bit images to
     /// `rgba32Format`, and shrinks what is larger than the `renderer` allows. 0, or -1 on any
-    /// failure. A file that cannot be decoded, or holds no pixels, or 65536 or more in a direction,
-    /// leaves the texture as it was and is one line on `log` where there is one. Without memory for
-    /// the conversion there is no surface afterwards, without memory to shrink it the large one.
+    /// failure. A file that cannot be decoded, or holds no pixels, or more than SDL does (from
+    /// 16384 columns or 65536 rows), leaves the texture as it was and is one line on `log` where
+    /// there is one. Without memory for the conversion there is no surface afterwards, without
+    /// memory to shrink it the large one.
     [[nodiscard]] std::int32_t load(const char* name, std::ostream* log);
 
     /// Makes the texture object of the pixels held, once; returns `glName`. An OpenGL context
