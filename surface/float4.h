@@ -17,8 +17,12 @@ constexpr Float4 broadcast(float x)
     return Float4{x, x, x, x};
 }
 
-inline Float4 squareRoots(Float4 lanes)
+inline float squareRoot(float x)
 {
-    return Float4{std::sqrt(lanes[0]), std::sqrt(lanes[1]), std::sqrt(lanes[2]),
-                  std::sqrt(lanes[3])};
+    return std::sqrt(x);
+}
+
+inline Float4 squareRoot(Float4 x)
+{
+    return Float4{std::sqrt(x[0]), std::sqrt(x[1]), std::sqrt(x[2]), std::sqrt(x[3])};
 }

@@ -12,10 +12,10 @@ void Frustum::refreshSelectors()
 {
     for (std::size_t i = 0; i < planeCount; ++i) {
         const Vec3& n = testedPlanes[i].n;
-        const std::uint32_t lowX = n.x > 0.0f ? 0 : 1;
-        const std::uint32_t lowY = n.y > 0.0f ? 0 : 1;
-        const std::uint32_t lowZ = n.z > 0.0f ? 0 : 1;
-        selectors[i] = {lowX, 1 - lowX, lowY, 1 - lowY, lowZ, 1 - lowZ};
+        const std::uint32_t low_x = n.x > 0.0f ? 0 : 1;
+        const std::uint32_t low_y = n.y > 0.0f ? 0 : 1;
+        const std::uint32_t low_z = n.z > 0.0f ? 0 : 1;
+        selectors[i] = {low_x, 1 - low_x, low_y, 1 - low_y, low_z, 1 - low_z};
     }
 }
 
@@ -46,11 +46,11 @@ std::uint8_t Frustum::classifyBox(BoundingBox& box, std::uint8_t inheritedMask) 
 
 Frustum::Side Frustum::sideOf(const BoundingBox& box, std::size_t plane) const
 {
-    const auto& [lowX, highX, lowY, highY, lowZ, highZ] = selectors[plane];
+    const auto& [low_x, high_x, low_y, high_y, low_z, high_z] = selectors[plane];
     const auto& corners = box.corners;
-    const Vec3 near(corners[lowX].x, corners[lowY].y, corners[lowZ].z);
+    const Vec3 near(corners[low_x].x, corners[low_y].y, corners[low_z].z);
     if (testedPlanes[plane].distance(near) > 0.0f)
         return Side::outside;
-    const Vec3 far(corners[highX].x, corners[highY].y, corners[highZ].z);
+    const Vec3 far(corners[high_x].x, corners[high_y].y, corners[high_z].z);
     return testedPlanes[plane].distance(far) <= 0.0f ? Side::inside : Side::crossing;
 }

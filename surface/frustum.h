@@ -21,7 +21,7 @@ public:
     /// For one plane and each axis, the box corner (0 minimum, 1 maximum) with the lowest and the
     /// one with the highest value of `Plane::distance`.
     struct CornerSelector {
-        std::uint32_t lowX, highX, lowY, highY, lowZ, highZ;
+        std::uint32_t low_x, high_x, low_y, high_y, low_z, high_z;
     };
 
     std::array<CornerSelector, planeCount> selectors{};

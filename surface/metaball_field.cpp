@@ -7,3 +7,13 @@ float fieldAt(std::span<const Metaball> balls, const Vec3& p)
         sum += ball.fieldAt(p);
     return sum;
 }
+
+Vec3 surfaceTexCoord(std::span<const Metaball> balls, const Vec3& p, float valueAtP)
+{
+    BackwardSamples<float> samples;
+    for (const auto& [radius, falloff, centre, bounds] : balls)
+        samples.add(falloff, {centre.x, centre.y, centre.z}, {p.x, p.y, p.z});
+    samples.value = valueAtP; // the same number, if it is the field's
+    const auto [s, t, z] = samples.texCoord();
+    return {s, t, z};
+}

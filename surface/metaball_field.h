@@ -19,17 +19,53 @@ constexpr float gradientStep = 0.1f; // world units
 /// The field of all `balls` at a point in world space; 0 without balls.
 float fieldAt(std::span<const Metaball> balls, const Vec3& p);
 
+/// The texture coordinate (x, y) of a point on the surface, where the field is `valueAtP`; z is
+/// that of the outward unit vector.
+Vec3 surfaceTexCoord(std::span<const Metaball> balls, const Vec3& p, float valueAtP);
+
 /// The field where a cell's lines meet: at x line a, y line b and z line e it is lane a of [b][e].
 using Grid = std::array<std::array<Float4, 3>, 3>;
 
-/// Four points in world space, one to a lane.
-struct Points4 {
-    Float4 x, y, z;
+/// The coordinates of one point or vector, or, with Float4, of four: one to a lane.
+template <typename Real>
+struct Coordinates {
+    Real x, y, z;
 };
 
-/// Four texture coordinates, one to a lane.
-struct TexCoords4 {
-    Float4 s, t;
+/// A field at a point, and one `gradientStep` before it along each axis.
+template <typename Real>
+struct BackwardSamples {
+    Real value{};
+    Coordinates<Real> before{};
+
+    /// Adds the share of one ball, sampled at `p`.
+    constexpr void add(const Real& falloff, const Coordinates<Real>& centre,
+                       const Coordinates<Real>& p)
+    {
+        const Real dx = p.x - centre.x;
+        const Real dy = p.y - centre.y;
+        const Real dz = p.z - centre.z;
+        const Real bx = p.x - gradientStep - centre.x;
+        const Real by = p.y - gradientStep - centre.y;
+        const Real bz = p.z - gradientStep - centre.z;
+        value += fieldShare(falloff, dx * dx + dy * dy + dz * dz);
+        before.x += fieldShare(falloff, bx * bx + dy * dy + dz * dz);
+        before.y += fieldShare(falloff, dx * dx + by * by + dz * dz);
+        before.z += fieldShare(falloff, dx * dx + dy * dy + bz * bz);
+    }
+
+    /// The unit vector in which the field falls, with x and y brought from [-1, 1] to [0, 1]: these
+    /// two are the texture coordinate. A flat field gives (0.5, 0.5, 0).
+    Coordinates<Real> texCoord() const
+    {
+        // The field falls outwards, so the backward differences point out of the surface.
+        const Real gx = before.x - value;
+        const Real gy = before.y - value;
+        const Real gz = before.z - value;
+        const Real length = squareRoot(gx * gx + gy * gy + gz * gz);
+        const Real scale = length > 0.0f ? 1.0f / length : length;
+        return {0.5f * (gx * scale) + 0.5f, 0.5f * (gy * scale) + 0.5f, gz * scale};
+    }
 };
 
 /// Samples the grid of a cell that `lines` divide. The corners, which the cell's parent sampled
@@ -54,33 +90,14 @@ inline Grid sampleGrid(std::span<const NearbyBall> balls, const GridLines& lines
     return sums;
 }
 
-/// The texture coordinates of points on the surface: x and y of the outward direction brought from
-/// [-1, 1] to [0, 1]. A flat field gives (0.5, 0.5).
-inline TexCoords4 surfaceTexCoords(std::span<const NearbyBall> balls, const Points4& points)
+/// The texture coordinates of four points on the surface.
+inline Coordinates<Float4> surfaceTexCoords(std::span<const NearbyBall> balls,
+                                            const Coordinates<Float4>& points)
 {
-    const auto& [x, y, z] = points;
-    Float4 value{};
-    Float4 beforeX{};
-    Float4 beforeY{};
-    Float4 beforeZ{};
+    BackwardSamples<Float4> samples;
     for (const NearbyBall& near : balls) {
         const FieldBall& ball = *near.ball;
-        const Float4 dx = x - ball.x;
-        const Float4 dy = y - ball.y;
-        const Float4 dz = z - ball.z;
-        const Float4 bx = x - gradientStep - ball.x;
-        const Float4 by = y - gradientStep - ball.y;
-        const Float4 bz = z - gradientStep - ball.z;
-        value += fieldShare(ball.falloff, dx * dx + dy * dy + dz * dz);
-        beforeX += fieldShare(ball.falloff, bx * bx + dy * dy + dz * dz);
-        beforeY += fieldShare(ball.falloff, dx * dx + by * by + dz * dz);
-        beforeZ += fieldShare(ball.falloff, dx * dx + dy * dy + bz * bz);
+        samples.add(ball.falloff, {ball.x, ball.y, ball.z}, points);
     }
-    // The field falls outwards, so the backward differences point out of the surface.
-    const Float4 gx = beforeX - value;
-    const Float4 gy = beforeY - value;
-    const Float4 gz = beforeZ - value;
-    const Float4 length = squareRoots(gx * gx + gy * gy + gz * gz);
-    const Float4 scale = length > 0.0f ? 1.0f / length : length;
-    return {0.5f * (gx * scale) + 0.5f, 0.5f * (gy * scale) + 0.5f};
+    return samples.texCoord();
 }

@@ -34,6 +34,11 @@ float MetaballSurface::fieldAt(const Vec3& p) const
     return ::fieldAt(allBalls(), p);
 }
 
+Vec3 MetaballSurface::surfaceTexCoord(const Vec3& p, float valueAtP) const
+{
+    return ::surfaceTexCoord(allBalls(), p, valueAtP);
+}
+
 void MetaballSurface::polygonizeAndDraw()
 {
     const std::uint8_t visibility = viewFrustum.classifyBox(region, 0);

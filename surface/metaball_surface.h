@@ -37,6 +37,15 @@ public:
     /// The field of all balls at a point in world space.
     float fieldAt(const Vec3& p) const;
 
+    /// The texture coordinate (x, y) of a point on the surface, given the field there; z is that of
+    /// the outward unit vector.
+    Vec3 surfaceTexCoord(const Vec3& p, float valueAtP) const;
+
+    /// Where the surface crosses the edge from `pa` to `pb`, on whose ends the field is `va` and
+    /// `vb`, one of them below the threshold; and the field there.
+    void interpolateEdge(const Vec3& pa, const Vec3& pb, float va, float vb, Vec3& outVertex,
+                         float& outValue) const;
+
     /// Lets the spheres that cells are tested against follow their balls.
     void syncBounds();
 

@@ -88,17 +88,31 @@ const CornerSamples& cornerSamples(const BoundingBox& box, const CornerValues& v
     return samples;
 }
 
-/// Where the surface crosses an edge whose ends lie on different sides of it: x, y and z.
-Float4 interpolateEdge(const CornerSamples& samples, std::size_t edge, float threshold)
+/// Where a linear field that is `va` at the one end of an edge and `vb` at the other comes to the
+/// threshold, as a part of the way.
+float crossingOf(float va, float vb, float threshold)
 {
-    const auto from = std::bit_cast<Float4>(samples[edgeCorners[edge].from]);
-    const auto to = std::bit_cast<Float4>(samples[edgeCorners[edge].to]);
-    const Float4 way = to - from;
-    const float mu = (threshold - from[3]) / way[3];
-    return from + way * mu;
+    return (threshold - va) / (vb - va);
 }
 
-Points4 transposed(const std::array<Float4, 4>& p)
+/// The point that lies the part `mu` of the way from `pa` to `pb`: of a Vec3, or in the lanes of a
+/// Float4.
+template <typename Point>
+Point pointBetween(const Point& pa, const Point& pb, float mu)
+{
+    return pa + (pb - pa) * mu;
+}
+
+/// Where the surface crosses an edge whose ends lie on different sides of it: x, y and z.
+Float4 crossingOn(std::size_t edge, const CornerSamples& samples, float threshold)
+{
+    const CornerSample& from = samples[edgeCorners[edge].from];
+    const CornerSample& to = samples[edgeCorners[edge].to];
+    return pointBetween(std::bit_cast<Float4>(from), std::bit_cast<Float4>(to),
+                        crossingOf(from.value, to.value, threshold));
+}
+
+Coordinates<Float4> transposed(const std::array<Float4, 4>& p)
 {
     return {Float4{p[0][0], p[1][0], p[2][0], p[3][0]}, Float4{p[0][1], p[1][1], p[2][1], p[3][1]},
             Float4{p[0][2], p[1][2], p[2][2], p[3][2]}};
@@ -139,6 +153,13 @@ void MetaballSurface::subdivide(OctreeNode& node, const CornerValues& values, st
     }
 }
 
+void MetaballSurface::interpolateEdge(const Vec3& pa, const Vec3& pb, float va, float vb,
+                                      Vec3& outVertex, float& outValue) const
+{
+    outVertex = pointBetween(pa, pb, crossingOf(va, vb, threshold));
+    outValue = fieldAt(outVertex);
+}
+
 void MetaballSurface::polygonizeLeaf(const CornerSamples& samples, std::uint8_t caseIndex) const
 {
     if (edgeTable[caseIndex] == 0)
@@ -156,8 +177,8 @@ void MetaballSurface::polygonizeLeaf(const CornerSamples& samples, std::uint8_t 
     for (std::size_t group = 0; group < count; group += 4) {
         std::array<Float4, 4> p;
         for (std::size_t i = 0; i < 4; ++i)
-            p[i] = interpolateEdge(samples, edges[group + i], threshold);
-        const auto [s, t] = surfaceTexCoords(nearbyBalls.at(octree.maxDepth), transposed(p));
+            p[i] = crossingOn(edges[group + i], samples, threshold);
+        const auto [s, t, z] = surfaceTexCoords(nearbyBalls.at(octree.maxDepth), transposed(p));
         for (std::size_t i = 0; i < 4; ++i)
             vertices[edges[group + i]] = {p[i], s[i], t[i]};
     }

@@ -26,7 +26,7 @@ TEST(Camera, GivesOpenGlTheTransposesAndHidesWhatLiesBeyondItsSides)
             EXPECT_EQ(camera.frustum.testedPlanes[plane].distance(beyond[side]) > 0, plane == side);
     EXPECT_EQ(camera.projection(2, 2), 15001.0f / -14999.0f); // from 1 to 15000, to the last bit
     EXPECT_EQ(camera.projection(2, 3), 30000.0f / -14999.0f);
-    EXPECT_EQ(camera.frustum.selectors[0].highX, 1u); // right: outwards is +x
+    EXPECT_EQ(camera.frustum.selectors[0].high_x, 1u); // right: outwards is +x
     resizeGlView(800, 0);
     EXPECT_EQ(camera.aspect, 800.0f);
 
