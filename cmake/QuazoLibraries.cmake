@@ -19,6 +19,3 @@ target_link_libraries(fltk_core INTERFACE "${FLTK_LIBRARY}")
 # GL and GLU are linked by programs only, so that a test can stand its recorder in for them.
 add_library(real_gl INTERFACE)
 target_link_libraries(real_gl INTERFACE OpenGL::GLU OpenGL::GL)
-if(QUAZO_SANITIZE)
-  target_sources(real_gl INTERFACE "${PROJECT_SOURCE_DIR}/tests/support/keep_modules.cpp")
-endif()

@@ -1,13 +1,15 @@
 # quazo_test(<name> <source>... [LINK <target>...] [DISPLAY]): one program of GoogleTest tests.
 # With DISPLAY its tests need an X server; they bring a virtual one and carry the label "display".
 
-find_package(GTest REQUIRED)
 include(GoogleTest)
 
 function(quazo_test name)
   cmake_parse_arguments(TEST "DISPLAY" "" "LINK" ${ARGN})
   add_executable(${name} ${TEST_UNPARSED_ARGUMENTS})
   target_link_libraries(${name} PRIVATE quazo_compiler ${TEST_LINK} GTest::gmock GTest::gtest_main)
+  if(QUAZO_SANITIZE)
+    target_link_libraries(${name} PRIVATE keep_modules)
+  endif()
   set(environment
     "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/leak_suppressions.txt"
     "UBSAN_OPTIONS=print_stacktrace=1"
