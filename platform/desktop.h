@@ -37,8 +37,9 @@ struct Message {
 
 /// Finds out whether the program was started to draw in another one's window: `--window-id N`
 /// among its arguments, else the environment's XSCREENSAVER_WINDOW, a number in decimal or with
-/// 0x. True when something is given there; if that is no window, connecting ends the process with
-/// status 1 and a line on standard error. Call it before anything else here.
+/// 0x. True when something is given there, be it an argument without a number; if that is no
+/// window, connecting ends the process with status 1 and a line on standard error. An empty
+/// variable is none given. Call it before anything else here.
 bool chooseHost(int argumentCount, const char* const* arguments);
 
 /// The desktop's size; false when there is no desktop to draw on. The first call connects.

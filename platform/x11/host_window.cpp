@@ -94,9 +94,10 @@ bool platform::desktop::chooseHost(int argumentCount, const char* const* argumen
     given.fill('\0');
     named = noWindow;
     adopted = false;
-    for (int i = 1; i + 1 < argumentCount && named == noWindow; ++i)
-        if (std::string_view(arguments[i]) == "--window-id" && *arguments[i + 1] != '\0')
-            take(arguments[i + 1]);
+    for (int i = 1; i < argumentCount && named == noWindow; ++i)
+        if (std::string_view(arguments[i]) == "--window-id")
+            take(i + 1 < argumentCount && *arguments[i + 1] != '\0' ? arguments[i + 1]
+                                                                    : "an empty --window-id");
     const char* const fromEnvironment = std::getenv("XSCREENSAVER_WINDOW");
     if (named == noWindow && fromEnvironment != nullptr && *fromEnvironment != '\0')
         take(fromEnvironment);

@@ -108,11 +108,19 @@ TEST_F(Hosts, EndTheSaverWithTheirWindow)
 
 TEST_F(Hosts, GetNoWindowOfOursForAnIdThatIsNone)
 {
-    for (const char* number : {"12", "0x0", "wayland-token"}) {
-        ChildProcess saver = quazo({"/s"}, {{"XSCREENSAVER_WINDOW", number}});
+    const struct {
+        std::vector<std::string> arguments;
+        const char *environment, *named;
+    } cases[] = {{{"/s"}, "12", "12"},
+                 {{"/s"}, "0x0", "0x0"},
+                 {{"/s"}, "wayland-token", "wayland-token"},
+                 {{"/s", "--window-id", ""}, "", "an empty --window-id"},
+                 {{"/s", "--window-id"}, "", "an empty --window-id"}};
+    for (const auto& [arguments, environment, named] : cases) {
+        ChildProcess saver = quazo(arguments, {{"XSCREENSAVER_WINDOW", environment}});
         EXPECT_EQ(saver.wait(), 1);
         EXPECT_EQ(saver.standardError(),
-                  "quazo: " + std::string(number) + ", given by the host, is no window\n");
+                  "quazo: " + std::string(named) + ", given by the host, is no window\n");
     }
 }
 
