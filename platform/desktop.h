@@ -85,9 +85,10 @@ void showPointer(NativeWindow window, bool visible);
 /// An OpenGL extension's entry point; null when there is none.
 [[nodiscard]] PROC glProcedure(const char* name);
 
-/// Shows a box with an OK button and waits until it is pressed. Without a display, or inside a
-/// host's window, the text goes to standard error instead. Works with and without a connection.
-/// Also returns as soon as `endDescriptor` can be read; -1 is none.
+/// Shows a box with an OK button and waits until it is pressed. It has the keyboard, and the
+/// pointer is seen over our windows too, until then. Without a display, or inside a host's window,
+/// the text goes to standard error instead. Works with and without a connection. Also returns as
+/// soon as `endDescriptor` can be read; -1 is none.
 void messageBox(const char* text, const char* caption, UINT type, int endDescriptor);
 
 /// Tells the rest of the desktop that a screen saver is running; the word is taken back also

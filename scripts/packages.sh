@@ -5,7 +5,7 @@ build_packages="cmake ninja-build g++ pkg-config libsdl1.2-dev libsdl-image1.2-d
 run_packages="libgl1-mesa-dri"
 virtual_display_packages="xvfb scrot"
 test_packages="python3 clang-format clang-tidy libgtest-dev libgmock-dev libbenchmark-dev
-    libxtst-dev xvfb openbox scrot procps xscreensaver xsecurelock dpkg-dev file lintian"
+    libxtst-dev libxfixes-dev xvfb openbox scrot procps xscreensaver xsecurelock dpkg-dev file lintian"
 
 # require_packages PACKAGE...: installs those that are missing, as root or with sudo; ends the
 # script with one line when that cannot be done.

@@ -101,9 +101,7 @@ WPARAM activation(const WindowRecord& record, WPARAM active)
 
 bool onFocus(WindowRecord& record, const XEvent& event, Message& result)
 {
-    // A grab borrows the focus; and under the pointer it is another window's.
-    const XFocusChangeEvent& focus = event.xfocus;
-    if (focus.mode == NotifyGrab || focus.mode == NotifyUngrab || focus.detail == NotifyPointer)
+    if (!isFocusChange(event.xfocus))
         return false;
     const WPARAM active = event.type == FocusIn ? WA_ACTIVE : WA_INACTIVE;
     result = plainMessage(record, WM_ACTIVATE, activation(record, active), 0);
@@ -132,13 +130,7 @@ bool onConfigure(WindowRecord& record, const XEvent& event, Message& /*result*/)
 
 bool onClientMessage(WindowRecord& record, const XEvent& event, Message& result)
 {
-    const XClientMessageEvent& message = event.xclient;
-    if (message.message_type != atom(AtomName::wmProtocols) || message.format != 32)
-        return false;
-    const auto protocol = static_cast<Atom>(message.data.l[0]);
-    if (protocol == atom(AtomName::netWmPing))
-        answerPing(message);
-    if (protocol != atom(AtomName::wmDeleteWindow))
+    if (answerPing(event) || protocolOf(event) != atom(AtomName::wmDeleteWindow))
         return false;
     result = plainMessage(record, WM_CLOSE, 0, 0);
     return true;

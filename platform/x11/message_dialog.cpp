@@ -1,6 +1,8 @@
 #include "platform/desktop.h"
+#include "platform/x11/deferred_events.h"
 #include "platform/x11/display.h"
 #include "platform/x11/host_window.h"
+#include "platform/x11/pointer.h"
 #include "platform/x11/window.h"
 #include "platform/x11/window_manager.h"
 
@@ -38,6 +40,18 @@ class TopmostWindow : public Fl_Window {
 public:
     using Fl_Window::Fl_Window;
 
+    // Only a window that can be seen may have it.
+    void takeKeyboard()
+    {
+        if (!seen)
+            return;
+        if (managerRuns(fl_display))
+            requestActivation(fl_display, fl_xid(this));
+        else
+            XSetInputFocus(fl_display, fl_xid(this), RevertToPointerRoot, CurrentTime);
+        XFlush(fl_display);
+    }
+
 private:
     int handle(int event) override
     {
@@ -55,13 +69,8 @@ private:
     void draw() override
     {
         Fl_Window::draw();
-        // Only a window that can be seen may have the keyboard.
-        if (std::exchange(seen, true))
-            return;
-        if (managerRuns(fl_display))
-            requestActivation(fl_display, fl_xid(this));
-        else
-            XSetInputFocus(fl_display, fl_xid(this), RevertToPointerRoot, CurrentTime);
+        if (!std::exchange(seen, true))
+            takeKeyboard();
     }
 
     bool seen = false;
@@ -136,19 +145,36 @@ public:
     // Returns when the box is closed, by whatever.
     void run(int endDescriptor)
     {
-        const auto close = [](int, void* shown) { static_cast<Fl_Window*>(shown)->hide(); };
+        const VisiblePointer pointer;
+        const int saversDescriptor = ConnectionNumber(openConnection());
+        watch(saversDescriptor, [](int, void* box) { static_cast<MessageDialog*>(box)->attend(); });
         if (endDescriptor >= 0)
-            Fl::add_fd(endDescriptor, FL_READ, close, &window);
+            watch(endDescriptor,
+                  [](int, void* box) { static_cast<MessageDialog*>(box)->window.hide(); });
         window.show();
         window.cursor(FL_CURSOR_ARROW);
         button.take_focus();
+        attend(); // to what was read before and makes no descriptor readable
         while (window.shown() != 0)
             Fl::wait();
+        Fl::remove_fd(saversDescriptor);
         if (endDescriptor >= 0)
             Fl::remove_fd(endDescriptor);
     }
 
 private:
+    void watch(int descriptor, Fl_FD_Handler handler)
+    {
+        Fl::add_fd(descriptor, FL_READ, handler, this);
+    }
+
+    // A click beside the box gives the keyboard to the saver's window, where nobody reads it.
+    void attend()
+    {
+        if (saversEvents.take())
+            window.takeKeyboard();
+    }
+
     void showIcon(UINT style, int letter)
     {
         const auto icon = std::find_if(icons.begin(), icons.end(),
@@ -163,6 +189,7 @@ private:
         sign.labelsize(letter);
     }
 
+    DeferredEvents saversEvents{openConnection()};
     TopmostWindow window;
     Fl_Box sign;
     PlainText message;

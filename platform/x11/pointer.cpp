@@ -1,8 +1,55 @@
+#include "platform/x11/pointer.h"
+
 #include "platform/desktop.h"
 #include "platform/x11/desktop_area.h"
 #include "platform/x11/display.h"
 #include "platform/x11/host_window.h"
 #include "platform/x11/window.h"
+
+namespace platform::x11 {
+
+namespace {
+
+void undefineCursor(::Window window)
+{
+    XUndefineCursor(openConnection(), window);
+}
+
+// A cursor of the window's own with nothing in it: elsewhere on the screen the pointer stays.
+void defineEmptyCursor(::Window window)
+{
+    Display* const display = openConnection();
+    constexpr char nothing[1] = {0};
+    XColor black{};
+    const Pixmap shape = XCreateBitmapFromData(display, window, nothing, 1, 1);
+    const Cursor empty = XCreatePixmapCursor(display, shape, shape, &black, &black, 0, 0);
+    XDefineCursor(display, window, empty);
+    XFreeCursor(display, empty); // the window keeps it
+    XFreePixmap(display, shape);
+}
+
+void forEachHidden(void (*act)(::Window))
+{
+    for (const WindowRecord& record : windowRecords())
+        if (record.id != 0 && record.pointerHidden)
+            act(record.id);
+    if (openConnection() != nullptr)
+        XFlush(openConnection());
+}
+
+} // namespace
+
+VisiblePointer::VisiblePointer()
+{
+    forEachHidden(undefineCursor);
+}
+
+VisiblePointer::~VisiblePointer()
+{
+    forEachHidden(defineEmptyCursor);
+}
+
+} // namespace platform::x11
 
 namespace platform::desktop {
 
@@ -26,21 +73,11 @@ bool pointerPosition(POINT& result)
 
 void showPointer(NativeWindow window, bool visible)
 {
-    if (findWindow(window) == nullptr || hosted())
+    WindowRecord* const record = findWindow(window);
+    if (record == nullptr || hosted())
         return;
-    Display* const display = connection();
-    if (visible) {
-        XUndefineCursor(display, window);
-        return;
-    }
-    // A cursor of the window's own with nothing in it: elsewhere on the screen the pointer stays.
-    constexpr char nothing[1] = {0};
-    XColor black{};
-    const Pixmap shape = XCreateBitmapFromData(display, window, nothing, 1, 1);
-    const Cursor empty = XCreatePixmapCursor(display, shape, shape, &black, &black, 0, 0);
-    XDefineCursor(display, window, empty);
-    XFreeCursor(display, empty); // the window keeps it
-    XFreePixmap(display, shape);
+    record->pointerHidden = !visible;
+    (visible ? undefineCursor : defineEmptyCursor)(window);
 }
 
 } // namespace platform::desktop

@@ -82,6 +82,11 @@ void awaitMapped(Display* display, ::Window window)
 
 } // namespace
 
+std::span<const WindowRecord> windowRecords()
+{
+    return records;
+}
+
 WindowRecord* findWindow(desktop::NativeWindow window)
 {
     const auto found =

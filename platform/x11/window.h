@@ -5,6 +5,8 @@
 
 #include <X11/Xlib.h>
 
+#include <span>
+
 namespace platform::x11 {
 
 /// What we know of a window of ours. A free place has `id` 0.
@@ -16,8 +18,12 @@ struct WindowRecord {
     desktop::Size client;       ///< As the server last said.
     desktop::Size reportedSize; ///< What the program believes; WM_SIZE follows where it differs.
     bool shown = false;
+    bool pointerHidden = false;          ///< While it is over this window.
     bool iconic = false, hidden = false; ///< Either one is minimised.
 };
+
+/// All places for records, the free ones too.
+[[nodiscard]] std::span<const WindowRecord> windowRecords();
 
 /// The record of a window that the port made and has not destroyed; null for any other. It stays
 /// where it is until then.

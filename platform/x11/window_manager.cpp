@@ -128,13 +128,28 @@ void requestActivation(Display* display, ::Window window)
                   {fromApplication, CurrentTime, 0, 0, 0});
 }
 
-void answerPing(const XClientMessageEvent& ping)
+Atom protocolOf(const XEvent& event)
 {
-    XEvent answer{};
-    answer.xclient = ping;
-    answer.xclient.window = DefaultRootWindow(ping.display);
-    XSendEvent(ping.display, answer.xclient.window, False,
+    const XClientMessageEvent& message = event.xclient;
+    const bool speaks = event.type == ClientMessage && message.format == 32 &&
+                        message.message_type == atom(AtomName::wmProtocols);
+    return speaks ? static_cast<Atom>(message.data.l[0]) : None;
+}
+
+bool answerPing(const XEvent& event)
+{
+    if (protocolOf(event) != atom(AtomName::netWmPing))
+        return false;
+    XEvent answer = event;
+    answer.xclient.window = DefaultRootWindow(event.xany.display);
+    XSendEvent(event.xany.display, answer.xclient.window, False,
                SubstructureRedirectMask | SubstructureNotifyMask, &answer);
+    return true;
+}
+
+bool isFocusChange(const XFocusChangeEvent& event)
+{
+    return event.mode != NotifyGrab && event.mode != NotifyUngrab && event.detail != NotifyPointer;
 }
 
 bool isIconic(Display* display, ::Window window)

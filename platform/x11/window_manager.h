@@ -18,8 +18,16 @@ void requestCover(Display* display, ::Window window);
 /// Asks the manager to bring the window forward with the keyboard's focus.
 void requestActivation(Display* display, ::Window window);
 
-/// Gives a ping of the manager, a client message of WM_PROTOCOLS, back to it: we are alive.
-void answerPing(const XClientMessageEvent& ping);
+/// The protocol of WM_PROTOCOLS that the manager speaks to a window with this event; 0 when it is
+/// another event.
+[[nodiscard]] Atom protocolOf(const XEvent& event);
+
+/// Gives a ping of the manager back to it: we are alive. False when `event` is no ping.
+bool answerPing(const XEvent& event);
+
+/// Whether a window really got or lost the keyboard's focus. A grab only borrows it, and a window
+/// under the pointer is told of a focus that is another's.
+[[nodiscard]] bool isFocusChange(const XFocusChangeEvent& event);
 
 /// Whether a manager has made an icon of the window (WM_STATE).
 [[nodiscard]] bool isIconic(Display* display, ::Window window);

@@ -110,14 +110,14 @@ void User::moveTo(int x, int y) const
     XSync(display, False);
 }
 
-void User::askToClose(Window window) const
+void User::sendProtocol(Window window, const char* protocol) const
 {
     XEvent event{};
     event.xclient.type = ClientMessage;
     event.xclient.window = window;
     event.xclient.message_type = XInternAtom(display, "WM_PROTOCOLS", False);
     event.xclient.format = 32;
-    event.xclient.data.l[0] = static_cast<long>(XInternAtom(display, "WM_DELETE_WINDOW", False));
+    event.xclient.data.l[0] = static_cast<long>(XInternAtom(display, protocol, False));
     XSendEvent(display, window, False, NoEventMask, &event);
     XSync(display, False);
 }

@@ -40,8 +40,9 @@ public:
     void click(unsigned button) const;
     void moveTo(int x, int y) const;
 
-    /// Asks the window to close, as a window manager does.
-    void askToClose(Window window) const;
+    /// Sends the window a message of WM_PROTOCOLS, as a window manager does.
+    void sendProtocol(Window window, const char* protocol) const;
+    void askToClose(Window window) const { sendProtocol(window, "WM_DELETE_WINDOW"); }
 
     Picture look() const;
     Display* connection() const { return display; }

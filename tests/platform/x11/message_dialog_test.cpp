@@ -1,5 +1,6 @@
 #include "tests/platform/x11/desktop_fixture.h"
 
+#include <X11/extensions/Xfixes.h>
 #include <X11/keysym.h>
 
 #include <cstdlib>
@@ -19,6 +20,43 @@ protected:
         int revert = 0;
         XGetInputFocus(server, &focused, &revert);
         return focused;
+    }
+
+    /// Its attributes, with the place on the screen.
+    XWindowAttributes placeOf(Window window) const
+    {
+        XWindowAttributes place = user.attributesOf(window);
+        Window child = 0;
+        XTranslateCoordinates(server, window, place.root, 0, 0, &place.x, &place.y, &child);
+        return place;
+    }
+
+    /// Forks a program that covers the screen, shows a box, and ends with success if a click that
+    /// came meanwhile has or has not waited for it, as `clicked` says.
+    pid_t startProgram(bool clicked)
+    {
+        const pid_t program = fork();
+        if (program == 0) {
+            const NativeWindow saver = open();
+            showPointer(saver, false);
+            EXPECT_TRUE(placeWindow(saver, 0, 0, screen, true));
+            messageBox("a@MMMMMMMM\n\n\n\n\n\n\n\n\n\n\n\n\n\n\n", "ERROR", MB_OK, -1);
+            Message message;
+            bool found = false;
+            while (nextMessage(message))
+                found |= message.message == WM_LBUTTONDOWN;
+            disconnect();
+            std::exit(found == clicked ? 0 : 1);
+        }
+        EXPECT_TRUE(User::waitUntil([&] { return user.titleOf(focus()) == "ERROR"; }));
+        return program;
+    }
+
+    static int statusOf(pid_t program)
+    {
+        int status = -1;
+        waitpid(program, &status, 0);
+        return status;
     }
 };
 
@@ -46,32 +84,41 @@ TEST_F(MessageDialog, ShowsTheTextAboveTheSaverUntilItIsClosedInAnyUsualWay)
     manage();
     disconnect(); // the program connects by itself
     for (const auto& close : ways) {
-        const pid_t program = fork();
-        if (program == 0) {
-            EXPECT_TRUE(placeWindow(open(), 0, 0, screen, true));
-            messageBox("a@MMMMMMMM\n\n\n\n\n\n\n\n\n\n\n\n\n\n\n", "ERROR", MB_OK, -1);
-            disconnect();
-            std::exit(0);
-        }
-        ASSERT_TRUE(User::waitUntil([&] { return user.titleOf(focus()) == "ERROR"; }));
-        XWindowAttributes box = user.attributesOf(focus());
-        Window child = 0;
-        XTranslateCoordinates(server, focus(), box.root, 0, 0, &box.x, &box.y, &child);
+        const pid_t program = startProgram(false);
+        const XWindowAttributes box = placeOf(focus());
         EXPECT_GT(box.height, box.width); // there are lines
         ASSERT_TRUE(User::waitUntil([&] { return showsLetters(user, box); }));
-        const Window shown = focus();
-        user.moveTo(5, 5); // on the saver, which the manager raises then
-        user.click(1);
-        ASSERT_TRUE(User::waitUntil([&] { return focus() != shown; }));
-        EXPECT_TRUE(User::waitUntil([&] { return showsLetters(user, box); }));
-        user.moveTo(box.x + 5, box.y + 5);
-        user.click(1);
-        ASSERT_TRUE(User::waitUntil([&] { return focus() == shown; }));
         constexpr int buttonsMiddle = 30; // above the lower edge
         user.moveTo(box.x + box.width / 2, box.y + box.height - buttonsMiddle);
         close();
-        int status = -1;
-        waitpid(program, &status, 0);
-        EXPECT_EQ(status, 0);
+        EXPECT_EQ(statusOf(program), 0);
     }
+}
+
+TEST_F(MessageDialog, HasTheKeyboardAndThePointerWhateverIsDoneToTheSaverBehindIt)
+{
+    manage();
+    disconnect();
+    const pid_t program = startProgram(true);
+    const Window box = focus();
+    Window saver = 0;
+    XGetTransientForHint(server, box, &saver);
+    XSelectInput(server, saver, FocusChangeMask);
+    XSelectInput(server, DefaultRootWindow(server), SubstructureNotifyMask);
+    user.moveTo(5, 5);
+    user.click(1);
+    const auto comes = [this](Window window, int type) {
+        XEvent event;
+        return XCheckTypedWindowEvent(server, window, type, &event) != False;
+    };
+    EXPECT_TRUE(User::waitUntil([&] { return comes(saver, FocusIn); }));
+    EXPECT_TRUE(User::waitUntil([&] { return focus() == box; }));
+    EXPECT_TRUE(User::waitUntil([&] { return showsLetters(user, placeOf(box)); })); // not below
+    XFixesCursorImage* const cursor = XFixesGetCursorImage(server);
+    EXPECT_GT(cursor->width, 1); // the hidden one is a single pixel
+    XFree(cursor);
+    user.sendProtocol(saver, "_NET_WM_PING");
+    EXPECT_TRUE(User::waitUntil([&] { return comes(DefaultRootWindow(server), ClientMessage); }));
+    user.press(XK_Return);
+    EXPECT_EQ(statusOf(program), 0);
 }
