@@ -72,6 +72,21 @@ TEST_F(Desktop, HoldsAHeldKey)
     }
 }
 
+TEST_F(Desktop, TellsNoActivationByAGrabOrAFocusThatIsAnothers)
+{
+    open();
+    EXPECT_EQ(next(WM_ACTIVATE).wParam, WA_ACTIVE);
+    user.moveTo(9, 9);
+    XGrabKeyboard(server, DefaultRootWindow(server), 0, GrabModeAsync, GrabModeAsync, CurrentTime);
+    XUngrabKeyboard(server, CurrentTime);
+    user.press(XK_a);
+    EXPECT_EQ(next(WM_ACTIVATE, WM_KEYDOWN).message, WM_KEYDOWN);
+    XSetInputFocus(server, PointerRoot, RevertToNone, CurrentTime);
+    user.press(XK_b); // comes by the pointer
+    EXPECT_EQ(next(WM_ACTIVATE, WM_KEYDOWN).message, WM_ACTIVATE); // the focus is lost
+    EXPECT_EQ(next(WM_ACTIVATE, WM_KEYDOWN).message, WM_KEYDOWN);
+}
+
 TEST_F(Desktop, IsTheHostsWindowWhichTheArgumentNamesBeforeTheEnvironment)
 {
     const Window root = DefaultRootWindow(server);
