@@ -1,6 +1,5 @@
 #include "tests/support/literal_surface.h"
 
-#include "surface/cell.h"
 #include "surface/frustum.h"
 #include "surface/marching_cubes_tables.h"
 #include "surface/metaball_surface.h"
@@ -8,49 +7,85 @@
 #include "zrk/gl.h"
 
 #include <algorithm>
+#include <array>
 #include <span>
 
 namespace {
 
-class LiteralPolygonizer {
-public:
-    explicit LiteralPolygonizer(const MetaballSurface& surface)
-        : balls(surface.balls.get(), surface.ballCount),
-          threshold(surface.threshold),
-          maxDepth(surface.depthSetting)
-    {
-    }
+using Values = std::array<float, 8>;
 
-    void draw(const BoundingBox& region)
-    {
-        testedBox.copyExtent(region);
-        const std::uint8_t visibility = viewFrustum.classifyBox(testedBox, 0);
-        if (visibility == 0)
-            return;
-        CornerValues values;
-        for (std::size_t corner = 0; corner < cornerCount; ++corner)
-            values[corner] = fieldAt(cornerPosition(region, corner));
-        subdivide(region, values, 0, visibility);
-    }
+// The definition once more, independent of the product's but for the case table, which has a test
+// of its own. Corners: whether each lies at the maximum of x, y and z. Edges: from, to.
+constexpr std::size_t corners[8][3] = {{0, 0, 0}, {1, 0, 0}, {1, 0, 1}, {0, 0, 1},
+                                       {0, 1, 0}, {1, 1, 0}, {1, 1, 1}, {0, 1, 1}};
+constexpr std::size_t edges[12][2] = {{0, 1}, {1, 2}, {2, 3}, {3, 0}, {4, 5}, {5, 6},
+                                      {6, 7}, {7, 4}, {0, 4}, {1, 5}, {2, 6}, {3, 7}};
 
-private:
-    std::span<const Metaball> balls;
-    float threshold;
-    std::uint32_t maxDepth;
-    BoundingBox testedBox;
+Vec3 cornerOf(const BoundingBox& box, const std::size_t (&at)[3])
+{
+    return {box.corners[at[0]].x, box.corners[at[1]].y, box.corners[at[2]].z};
+}
+
+// Inline, since benchmarks measure against this version.
+inline float shareOf(const Metaball& ball, const Vec3& p)
+{
+    const Vec3 d = p - ball.centre;
+    const float s = ball.falloff * (d.x * d.x + d.y * d.y + d.z * d.z);
+    return s >= 0.5f ? 0.0f : 4.0f * (s * s - s + 0.25f);
+}
+
+bool meets(const BoundingBox& box, const Metaball& ball)
+{
+    const Vec3& c = ball.centre;
+    const Vec3 d(c.x - std::clamp(c.x, box.min().x, box.max().x),
+                 c.y - std::clamp(c.y, box.min().y, box.max().y),
+                 c.z - std::clamp(c.z, box.min().z, box.max().z));
+    return d.x * d.x + d.y * d.y + d.z * d.z <= ball.radius * ball.radius;
+}
+
+struct LiteralPolygonizer {
+    const MetaballSurface& surface;
+    const std::span<const Metaball> balls{surface.balls.get(), surface.ballCount};
+    const float threshold = surface.threshold;
+    std::size_t lastPlane = 0; // that rejected a box
 
     float fieldAt(const Vec3& p) const
     {
         float sum = 0.0f;
         for (const Metaball& ball : balls)
-            sum += ball.fieldAt(p);
+            sum += shareOf(ball, p);
         return sum;
     }
 
-    void subdivide(const BoundingBox& box, const CornerValues& values, std::uint32_t depth,
-                   std::uint8_t visibility)
+    unsigned caseOf(const Values& values) const
     {
-        if (depth == maxDepth) {
+        unsigned outside = 0;
+        for (std::size_t corner = 0; corner < 8; ++corner)
+            outside += values[corner] >= threshold ? 0 : 1u << corner;
+        return outside;
+    }
+
+    unsigned classify(const BoundingBox& box, unsigned contained)
+    {
+        for (std::size_t step = 0; step < 6; ++step) {
+            const std::size_t i = (lastPlane + step) % 6;
+            const Plane& plane = viewFrustum.testedPlanes[i];
+            if ((contained >> i & 1) != 0)
+                continue;
+            const std::size_t high[3]{plane.n.x > 0, plane.n.y > 0, plane.n.z > 0};
+            if (plane.distance(cornerOf(box, {1 - high[0], 1 - high[1], 1 - high[2]})) > 0) {
+                lastPlane = i;
+                return 0;
+            }
+            contained |= plane.distance(cornerOf(box, high)) <= 0 ? 1u << i : 0;
+        }
+        return contained;
+    }
+
+    void subdivide(const BoundingBox& box, const Values& values, std::uint32_t depth,
+                   unsigned visibility)
+    {
+        if (depth == surface.depthSetting) {
             polygonizeLeaf(box, values);
             return;
         }
@@ -62,48 +97,38 @@ private:
                 for (std::size_t e = 0; e < 3; ++e)
                     if (a == 1 || b == 1 || e == 1)
                         grid[a][b][e] = fieldAt({lines[a].x, lines[b].y, lines[e].z});
-        for (std::size_t corner = 0; corner < cornerCount; ++corner) {
-            const auto& [x, y, z] = cornerOffset[corner];
+        for (std::size_t corner = 0; corner < 8; ++corner) {
+            const auto& [x, y, z] = corners[corner];
             grid[2 * x][2 * y][2 * z] = values[corner];
         }
-        for (const auto& [x, y, z] : cornerOffset) {
-            CornerValues childValues;
-            for (std::size_t corner = 0; corner < cornerCount; ++corner) {
-                const auto& [dx, dy, dz] = cornerOffset[corner];
+        for (const auto& [x, y, z] : corners) {
+            Values childValues;
+            for (std::size_t corner = 0; corner < 8; ++corner) {
+                const auto& [dx, dy, dz] = corners[corner];
                 childValues[corner] = grid[x + dx][y + dy][z + dz];
             }
-            visitChild({{lines[x].x, lines[y].y, lines[z].z},
-                        {lines[x + 1].x, lines[y + 1].y, lines[z + 1].z}},
-                       childValues, depth + 1, visibility);
+            const BoundingBox child({lines[x].x, lines[y].y, lines[z].z},
+                                    {lines[x + 1].x, lines[y + 1].y, lines[z + 1].z});
+            if (caseOf(childValues) == 0)
+                continue;
+            const unsigned seen = classify(child, visibility);
+            if (seen != 0 && std::ranges::any_of(
+                                 balls, [&](const Metaball& ball) { return meets(child, ball); }))
+                subdivide(child, childValues, depth + 1, seen);
         }
     }
 
-    void visitChild(const BoundingBox& box, const CornerValues& values, std::uint32_t depth,
-                    std::uint8_t inherited)
+    void polygonizeLeaf(const BoundingBox& box, const Values& values) const
     {
-        if (caseIndexOf(values, threshold) == 0)
-            return;
-        testedBox.copyExtent(box);
-        const std::uint8_t visibility = viewFrustum.classifyBox(testedBox, inherited);
-        if (visibility == 0)
-            return;
-        if (std::ranges::any_of(balls, [&](const Metaball& b) { return box.intersects(b.bounds); }))
-            subdivide(box, values, depth, visibility);
-    }
-
-    void polygonizeLeaf(const BoundingBox& box, const CornerValues& values) const
-    {
-        const std::uint8_t caseIndex = caseIndexOf(values, threshold);
-        if (edgeTable[caseIndex] == 0)
+        const unsigned caseIndex = caseOf(values);
+        if (caseIndex == 0 || caseIndex == 255)
             return;
         glBegin(GL_TRIANGLES);
-        for (const std::int32_t edge : triTable[caseIndex]) {
-            if (edge < 0)
-                break;
-            const auto& [from, to] = edgeCorners[static_cast<std::size_t>(edge)];
+        for (const std::int32_t* edge = triTable[caseIndex].data(); *edge >= 0; ++edge) {
+            const auto& [from, to] = edges[*edge];
             const float mu = (threshold - values[from]) / (values[to] - values[from]);
-            const Vec3 pa = cornerPosition(box, from);
-            sendVertex(pa + (cornerPosition(box, to) - pa) * mu);
+            const Vec3 pa = cornerOf(box, corners[from]);
+            sendVertex(pa + (cornerOf(box, corners[to]) - pa) * mu);
         }
         glEnd();
     }
@@ -113,8 +138,9 @@ private:
         constexpr float step = 0.1f;
         Vec3 outward;
         for (const Metaball& ball : balls)
-            outward += Vec3(ball.fieldAt(p.x - step, p.y, p.z), ball.fieldAt(p.x, p.y - step, p.z),
-                            ball.fieldAt(p.x, p.y, p.z - step));
+            outward +=
+                Vec3(shareOf(ball, p - Vec3(step, 0, 0)), shareOf(ball, p - Vec3(0, step, 0)),
+                     shareOf(ball, p - Vec3(0, 0, step)));
         outward -= Vec3(fieldAt(p));
         outward.normalize();
         glTexCoord2f(0.5f * outward.x + 0.5f, 0.5f * outward.y + 0.5f);
@@ -126,5 +152,10 @@ private:
 
 void drawLiterally(const MetaballSurface& surface)
 {
-    LiteralPolygonizer(surface).draw(surface.region);
+    LiteralPolygonizer literal{surface};
+    Values values;
+    for (std::size_t corner = 0; corner < 8; ++corner)
+        values[corner] = literal.fieldAt(cornerOf(surface.region, corners[corner]));
+    if (const unsigned visibility = literal.classify(surface.region, 0); visibility != 0)
+        literal.subdivide(surface.region, values, 0, visibility);
 }
