@@ -17,8 +17,9 @@ struct Metaball {
     float radius = 100.0f;                    ///< Of influence, in world units.
     float falloff = 0.5f / (100.0f * 100.0f); ///< 0.5 / radius², so that the field divides nothing.
     Vec3 centre;
-    Sphere bounds{100.0f, {}}; ///< What cells are tested against; see `syncBounds`.
+    Sphere bounds{100.0f, {}}; ///< Cells that it does not meet are dropped.
 
+    /// The way to change a ball: `falloff`, which alone decides its field, and `bounds` follow.
     void set(const Vec3& newCentre, float newRadius);
 
     /// This ball's share of the field at a point in world space.
@@ -31,7 +32,7 @@ struct Metaball {
         return fieldShare(falloff, dx * dx + dy * dy + dz * dz);
     }
 
-    /// Makes `bounds` follow a centre and radius that were written directly.
+    /// Makes `bounds` follow a centre and radius that were written without `set`.
     void syncBounds();
 };
 

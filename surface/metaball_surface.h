@@ -46,7 +46,7 @@ public:
     void interpolateEdge(const Vec3& pa, const Vec3& pb, float va, float vb, Vec3& outVertex,
                          float& outValue) const;
 
-    /// Lets the spheres that cells are tested against follow their balls.
+    /// Makes the bounds of every ball follow it; `polygonizeAndDraw` does so in every frame.
     void syncBounds();
 
     /// Draws the part of the surface that the `viewFrustum` may see. The `shader` must be set, a

@@ -25,13 +25,18 @@ float sampleMargin(const BoundingBox& region)
 
 FieldBall fieldBall(const Metaball& ball, float margin)
 {
-    // A thousandth more is far beyond what rounding can do to a ball's own terms.
-    const float reach = (std::abs(ball.radius) + margin) * 1.001f;
+    // The field ends where the falloff says, the bounds where the radius does: one of the two may
+    // have been written without the other. A thousandth more is far beyond what rounding can do to
+    // a ball's own terms.
+    const auto& [radius, centre] = ball.bounds;
+    const float fieldRadius = std::sqrt(0.5f / ball.falloff);
+    const float reach = (std::max(fieldRadius, std::abs(radius)) + margin) * 1.001f;
     return {broadcast(ball.centre.x),
             broadcast(ball.centre.y),
             broadcast(ball.centre.z),
             broadcast(ball.falloff),
-            ball.bounds.radius * ball.bounds.radius,
+            Float4{centre.x, centre.y, centre.z},
+            radius * radius,
             reach * reach};
 }
 
@@ -61,6 +66,9 @@ void NearbyBalls::begin(std::span<const Metaball> balls, const BoundingBox& regi
 
 void NearbyBalls::resize(std::uint32_t newBallCount, std::size_t newDepthCount)
 {
+    // None until all arrays are there: `Cexception` may be survived.
+    ballCount = 0;
+    depthCount = 0;
     fieldBalls = zrk::newArray<FieldBall>(newBallCount);
     lists = zrk::newArray<NearbyBall>(newBallCount * newDepthCount);
     counts = zrk::newArray<std::uint32_t>(newDepthCount);
@@ -73,9 +81,8 @@ void NearbyBalls::measureOctants(std::uint32_t depth, const GridLines& lines)
     const auto& [low, middle, high] = lines;
     NearbyBall* const list = lists.get() + std::size_t{depth} * ballCount;
     for (auto& [ball, toOctants2] : std::span(list, counts[depth])) {
-        const Float4 centre{ball->x[0], ball->y[0], ball->z[0]};
-        const Float4 toLow = distance2(centre, low, middle);
-        const Float4 toHigh = distance2(centre, middle, high);
+        const Float4 toLow = distance2(ball->boundsCentre, low, middle);
+        const Float4 toHigh = distance2(ball->boundsCentre, middle, high);
         // In corner order, which goes around a face.
         const Float4 toX{toLow[0], toHigh[0], toHigh[0], toLow[0]};
         const Float4 toZ{toLow[2], toLow[2], toHigh[2], toHigh[2]};

@@ -15,8 +15,9 @@ struct Metaball;
 struct FieldBall {
     Float4 x, y, z; ///< The centre.
     Float4 falloff;
-    float radius2; ///< The square of its bounds' radius.
-    float reach2;  ///< Beyond this squared distance from a cell no sample of it feels the ball.
+    Float4 boundsCentre; ///< In the lanes x, y and z.
+    float radius2;       ///< The square of its bounds' radius.
+    float reach2; ///< At a larger squared distance from a cell neither it nor a sample is reached.
 };
 
 /// A ball as a cell knows it.
@@ -31,9 +32,9 @@ struct NearbyBall {
 /// the list is the sum over all balls, bit for bit.
 class NearbyBalls {
 public:
-    /// Begins a frame: at depth 0, in the `region`, all `balls` are near. Room for the lists is
-    /// kept while the numbers of balls and of depths stay the same; no memory for it is
-    /// `Cexception`.
+    /// Begins a frame: at depth 0, in the `region`, all `balls` are near. Their bounds must be in
+    /// step with them. Room for the lists is kept while the numbers of balls and of depths stay the
+    /// same; no memory for it is `Cexception`.
     void begin(std::span<const Metaball> balls, const BoundingBox& region, std::uint32_t maxDepth);
 
     /// The list of the cell being visited at `depth`, or of the one around it.

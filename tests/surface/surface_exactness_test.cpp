@@ -3,6 +3,7 @@
 #include "tests/support/literal_surface.h"
 #include "tests/support/surface_world.h"
 #include "tests/support/vertex_sink.h"
+#include "zrk/cexception.h"
 #include "zrk/shaders/shader.h"
 
 #include <gtest/gtest.h>
@@ -47,7 +48,22 @@ protected:
         EXPECT_TRUE(
             std::ranges::equal(std::as_bytes(std::span(sent)), std::as_bytes(std::span(expected))))
             << what;
+        EXPECT_TRUE(std::ranges::all_of(sent, [&](const vertex_sink::Vertex& v) {
+            const Vec3 p(v.x, v.y, v.z);
+            const Vec3 texCoord = surface.surfaceTexCoord(p, surface.fieldAt(p));
+            return texCoord.x == v.s && texCoord.y == v.t;
+        })) << what;
         return expected.size();
+    }
+
+    std::size_t leavesBelow(const OctreeNode* node, std::uint32_t depth)
+    {
+        if (node == nullptr || depth == surface.octree.maxDepth)
+            return node == nullptr ? 0 : 1;
+        std::size_t leaves = 0;
+        for (const OctreeNode* child : node->children)
+            leaves += leavesBelow(child, depth + 1);
+        return leaves;
     }
 };
 
@@ -70,6 +86,7 @@ const Case cases[] = {
     {"small balls around a large one", {{500, {}}, {40, {300, 0, 0}}, {60, {0, 300, 75}}}, false},
     {"a ball that holds the region", {{9000, {}}}, true},
     {"the region's corners alone outside", {{2300, {}}}, false},
+    {"corners where the field is 0.5625", {{400, {25, 0, 0}}, {400, {-1000, -1200, -1200}}}, false},
 };
 
 } // namespace
@@ -93,10 +110,13 @@ TEST_F(SurfaceExactness, HoldsForBallsOfEveryKind)
 {
     for (const Case& c : cases) {
         setBalls(c.balls);
-        for (const float threshold : {0.5f, 0.02f, 1.3f}) {
+        for (const float threshold : {0.5f, 0.02f, 1.3f, 0.5625f}) {
             surface.threshold = threshold;
             const std::size_t sent = expectSame(c.what);
             EXPECT_TRUE(threshold != 0.5f || (sent == 0) == c.empty) << c.what;
+            surface.depthSetting = 0;
+            expectSame(c.what);
+            surface.depthSetting = 5;
         }
     }
 }
@@ -118,6 +138,31 @@ TEST_F(SurfaceExactness, HoldsWhereAGradientStepIsLarge)
     }
 }
 
+TEST_F(SurfaceExactness, HoldsForBallsWrittenWithoutTheirFalloffAndBounds)
+{
+    for (std::uint32_t i = 0; i < surface.ballCount; ++i) {
+        surface.balls[i].radius *= i % 3 == 0 ? 1.5f : 0.6f;
+        surface.balls[i].centre += Vec3(200);
+    }
+    EXPECT_GT(expectSame("written"), 0u);
+}
+
+TEST_F(SurfaceExactness, TheTreeHoldsTheLeavesDrawn)
+{
+    for (const std::uint32_t seed : {2u, 3u}) {
+        surface_world::setUp(surface, seed);
+        vertex_sink::keep();
+        surface.polygonizeAndDraw();
+        EXPECT_EQ(leavesBelow(surface.octree.root, 0), vertex_sink::take().back().leaf);
+    }
+    const OctreeNode* const root = surface.octree.root;
+    surface.threshold = 1.01f; // more than the field of balls that lie apart
+    setBalls({{400, Vec3(600)}, {400, Vec3(-600)}});
+    surface.polygonizeAndDraw();
+    EXPECT_EQ(surface.octree.root, root); // the pool begins anew
+    EXPECT_EQ(std::ranges::count(root->children, nullptr), 8);
+}
+
 TEST_F(SurfaceExactness, LaterFramesAllocateNothing)
 {
     surface.polygonizeAndDraw();
@@ -126,7 +171,22 @@ TEST_F(SurfaceExactness, LaterFramesAllocateNothing)
         surface.balls[i].set(Vec3(100.0f * static_cast<float>(i)), 300);
     surface.polygonizeAndDraw();
     EXPECT_EQ(allocations::count(), before);
-    surface.nodePoolSize = 40000;
-    surface.polygonizeAndDraw();
-    EXPECT_EQ(allocations::count(), before + 1);
+}
+
+TEST_F(SurfaceExactness, HoldsAfterAFrameWithoutMemory)
+{
+    // The node pool and the balls' three arrays fail in turn, between two frames of other sizes.
+    for (std::size_t ordinal = 1; ordinal <= 5; ++ordinal) {
+        surface_world::setUp(surface, 1);
+        surface.nodePoolSize = 50000;
+        EXPECT_GT(expectSame("before allocation " + std::to_string(ordinal)), 0u);
+        surface.depthSetting = 3;
+        surface.nodePoolSize = 1000;
+        setBalls({{400, {}}});
+        const allocations::Failure failure(ordinal);
+        if (ordinal < 5)
+            EXPECT_THROW(surface.polygonizeAndDraw(), zrk::Cexception) << ordinal;
+        else
+            EXPECT_NO_THROW(surface.polygonizeAndDraw());
+    }
 }
