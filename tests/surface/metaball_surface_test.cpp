@@ -1,4 +1,5 @@
 #include "surface/metaball_surface.h"
+#include "tests/support/call_text.h"
 #include "tests/support/gl_recorder.h"
 #include "tests/support/surface_world.h"
 #include "zrk/shaders/shader.h"
@@ -6,8 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstddef>
-#include <cstdio>
+#include <array>
 #include <string>
 #include <vector>
 
@@ -34,18 +34,18 @@ protected:
     }
 };
 
-std::vector<Vec3> vertices(const std::vector<std::string>& calls)
-{
-    std::vector<Vec3> found;
-    for (const std::string& call : calls) {
-        Vec3 p;
-        if (std::sscanf(call.c_str(), "glVertex3f(%f, %f, %f)", &p.x, &p.y, &p.z) == 3)
-            found.push_back(p);
-    }
-    return found;
-}
-
 } // namespace
+
+TEST(MetaballSurface, StartsWithBallsOf400AndADepthOf4)
+{
+    MetaballSurface surface;
+    EXPECT_EQ(surface.balls[surface.ballCount - 1].bounds.radius, 400);
+    EXPECT_EQ((std::array{surface.ballCount, surface.depthSetting, surface.octree.maxDepth,
+                          surface.nodePoolSize}),
+              (std::array{25u, 4u, 3u, 50000u}));
+    EXPECT_EQ(surface.kind(), 6);
+    EXPECT_TRUE(surface.query(0));
+}
 
 TEST_F(SurfaceFrame, OfARegionOutOfViewMakesNoCall)
 {
@@ -72,29 +72,21 @@ TEST_F(SurfaceFrame, SendsALeafOfCaseOneAsOneTriangle)
     surface.balls[0].set(Vec3(100), 1200);
     std::vector<std::string> calls = frame();
     calls.erase(calls.begin(), std::ranges::find(calls, "glBegin(GL_TRIANGLES)"));
-    ASSERT_EQ(calls.size(), 8u);
-    EXPECT_EQ(calls.back(), "glEnd()");
-    for (std::size_t i = 1; i < 7; ++i)
-        EXPECT_EQ(calls[i].find(i % 2 == 1 ? "glTexCoord2f(" : "glVertex3f("), 0u) << calls[i];
 
-    // F is 4/9 at corner 0 and 9/16 at its neighbours: 8/17 of the way of 600.
-    const float crossing = -300.0f + 600.0f * 8.0f / 17.0f;
-    const Vec3 expected[] = {
-        {crossing, -300, -300}, {-300, crossing, -300}, {-300, -300, crossing}};
-    const std::vector<Vec3> triangle = vertices(calls);
-    for (std::size_t i = 0; i < 3; ++i)
-        EXPECT_LT((triangle[i] - expected[i]).length(), 0.001f) << i;
-}
-
-TEST_F(SurfaceFrame, IsTheSphereOfABallThatMoved)
-{
-    // Within a leaf edge of 37.5 the field bends by at most 1.8e-5 per unit², which moves a
-    // crossing by 37.5² / 8 * 1.8e-5 / 0.0038 (the slope) = 0.9 at most.
-    constexpr float bend = 0.9f;
-    surface.balls[0].set({5000, 0, 0}, 400);
-    surface.balls[0].centre = Vec3(-80, 0, 0); // its bounds are left behind
-    const std::vector<Vec3> sphere = vertices(frame());
-    EXPECT_GT(sphere.size(), 1000u);
-    for (const Vec3& p : sphere)
-        EXPECT_NEAR((p - surface.balls[0].centre).length(), 216.48f, bend);
+    std::vector<std::string> expected{"glBegin(GL_TRIANGLES)"};
+    const Vec3 edges[][2] = {{Vec3(-300), {300, -300, -300}},
+                             {Vec3(-300), {-300, 300, -300}},
+                             {{-300, -300, 300}, Vec3(-300)}};
+    for (const auto& [pa, pb] : edges) {
+        Vec3 p;
+        float value = 0;
+        surface.interpolateEdge(pa, pb, surface.fieldAt(pa), surface.fieldAt(pb), p, value);
+        // F is 4/9 at corner 0 and 9/16 at its neighbours: 8/17 of the way of 600.
+        EXPECT_NEAR((p - Vec3(-300)).length(), 600.0f * 8.0f / 17.0f, 0.001f);
+        const Vec3 texCoord = surface.surfaceTexCoord(p, value);
+        expected.push_back(callText("glTexCoord2f", texCoord.x, texCoord.y));
+        expected.push_back(callText("glVertex3f", p.x, p.y, p.z));
+    }
+    expected.emplace_back("glEnd()");
+    EXPECT_EQ(calls, expected);
 }
