@@ -1,32 +1,14 @@
-#include "platform/cursor.h"
-
 #include "platform/desktop.h"
 #include "platform/message_queue.h"
-#include "platform/windows.h"
-
-namespace platform {
-
-namespace {
-
-constinit int displayCount = 0;
-
-} // namespace
-
-bool pointerShown()
-{
-    return displayCount >= 0;
-}
-
-} // namespace platform
+#include "platform/window_handles.h"
 
 using namespace platform;
 
 int ShowCursor(BOOL show)
 {
-    const bool shownBefore = pointerShown();
+    static constinit int displayCount = 0;
     displayCount += show != FALSE ? 1 : -1;
-    if (pointerShown() != shownBefore)
-        showPointerOverWindows(pointerShown());
+    showPointerOverWindows(displayCount >= 0);
     return displayCount;
 }
 

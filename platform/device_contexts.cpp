@@ -1,6 +1,6 @@
 #include "platform/device_contexts.h"
 
-#include "platform/windows.h"
+#include "platform/window_handles.h"
 
 #include <cstdint>
 
@@ -40,7 +40,7 @@ HDC GetDC(HWND window)
 {
     if (window == nullptr)
         return screenContext();
-    return findWindow(window) == nullptr ? nullptr : ownContextOf(window);
+    return recordOf(window) == nullptr ? nullptr : ownContextOf(window);
 }
 
 int ReleaseDC(HWND window, HDC deviceContext)

@@ -3,6 +3,7 @@
 #include "platform/desktop.h"
 #include "platform/held_releases.h"
 #include "platform/signals.h"
+#include "platform/window_handles.h"
 #include "platform/windows.h"
 
 #include <cstdint>
@@ -22,7 +23,7 @@ constinit const POINT* handledPlace = nullptr; // of the mouse message being dis
 // A signal asks the newest window to close, once: what it asks for is the window's to decide.
 std::optional<MSG> closeBySignal()
 {
-    const HWND window = newestWindow();
+    const HWND window = newestHandle();
     if (closeAsked || window == nullptr || !endRequested())
         return std::nullopt;
     closeAsked = true;

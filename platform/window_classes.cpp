@@ -1,6 +1,6 @@
 #include "platform/window_classes.h"
 
-#include "platform/windows.h"
+#include "platform/window_handles.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -53,7 +53,7 @@ BOOL UnregisterClassA(LPCSTR className, HINSTANCE /*instance*/)
 {
     using namespace platform;
     const auto found = findByName(className);
-    if (found == classes.end() || hasWindowOf(found->windowClass.atom))
+    if (found == classes.end() || anyHandleOf(found->windowClass.atom))
         return FALSE;
     classes.erase(found);
     return TRUE;

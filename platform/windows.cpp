@@ -1,86 +1,26 @@
 #include "platform/windows.h"
 
-#include "platform/cursor.h"
 #include "platform/window_classes.h"
-
-#include <algorithm>
-#include <cstdint>
-#include <memory>
-#include <vector>
+#include "platform/window_handles.h"
 
 namespace platform {
 
 namespace {
 
-// Each record stays where it is while others come and go, for procedures make and destroy windows.
-constinit std::vector<std::unique_ptr<Window>> windows;
-
-// Handles are numbers that are never given twice, so a stale one finds nothing.
-constinit std::uintptr_t newestHandle = 0;
-
-template <typename Predicate>
-Window* findWhere(Predicate predicate)
+void sendSize(HandleRecord& record, desktop::Size client)
 {
-    const auto found = std::find_if(windows.begin(), windows.end(),
-                                    [&](const auto& window) { return predicate(*window); });
-    return found == windows.end() ? nullptr : found->get();
-}
-
-void sendSize(Window& window, desktop::Size client)
-{
-    window.toldSize = client;
-    sendMessage(window.handle, WM_SIZE, SIZE_RESTORED,
+    record.toldSize = client;
+    sendMessage(record.handle, WM_SIZE, SIZE_RESTORED,
                 MAKELPARAM(static_cast<WORD>(client.width), static_cast<WORD>(client.height)));
 }
 
 } // namespace
 
-Window* findWindow(HWND handle)
-{
-    return findWhere([handle](const Window& window) { return window.handle == handle; });
-}
-
-HWND handleOf(desktop::NativeWindow native)
-{
-    const Window* window =
-        findWhere([native](const Window& each) { return each.native == native; });
-    return window == nullptr ? nullptr : window->handle;
-}
-
-desktop::NativeWindow nativeOf(HWND handle)
-{
-    const Window* window = findWindow(handle);
-    return window == nullptr ? 0 : window->native;
-}
-
-HWND newestWindow()
-{
-    return windows.empty() ? nullptr : windows.back()->handle;
-}
-
-bool hasWindowOf(ATOM windowClass)
-{
-    const auto isOfClass = [=](const Window& window) { return window.windowClass == windowClass; };
-    return findWhere(isOfClass) != nullptr;
-}
-
-void showPointerOverWindows(bool visible)
-{
-    for (const auto& window : windows)
-        desktop::showPointer(window->native, visible);
-}
-
-LRESULT sendMessage(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    const Window* window = findWindow(handle);
-    return window == nullptr ? 0 : window->procedure(handle, message, wParam, lParam);
-}
-
 void tellSize(HWND handle, desktop::Size client)
 {
-    Window* window = findWindow(handle);
-    if (window != nullptr && window->toldSize != client)
-        sendSize(*window, client);
+    HandleRecord* const record = recordOf(handle);
+    if (record != nullptr && record->toldSize != client)
+        sendSize(*record, client);
 }
 
 } // namespace platform
@@ -104,16 +44,12 @@ HWND CreateWindowExA(DWORD /*extendedStyle*/, LPCSTR className, LPCSTR windowNam
         desktop::createWindow(windowName == nullptr ? "" : windowName, x, y, client);
     if (native == 0)
         return nullptr;
-    const HWND handle = reinterpret_cast<HWND>(++newestHandle);
-    windows.push_back(std::make_unique<Window>(Window{.handle = handle,
-                                                      .windowClass = windowClass.atom,
-                                                      .procedure = windowClass.procedure,
-                                                      .native = native,
-                                                      .style = style}));
-    if (!pointerShown())
-        desktop::showPointer(native, false);
+    const HWND handle = addHandle({.windowClass = windowClass.atom,
+                                   .procedure = windowClass.procedure,
+                                   .native = native,
+                                   .style = style});
     tellSize(handle, client);
-    return findWindow(handle) == nullptr ? nullptr : handle;
+    return recordOf(handle) == nullptr ? nullptr : handle;
 }
 
 BOOL DestroyWindow(HWND window)
@@ -121,13 +57,13 @@ BOOL DestroyWindow(HWND window)
     const desktop::NativeWindow native = nativeOf(window);
     if (native == 0 || !desktop::destroyWindow(native))
         return FALSE;
-    std::erase_if(windows, [window](const auto& each) { return each->handle == window; });
+    removeHandle(window);
     return TRUE;
 }
 
 BOOL ShowWindow(HWND window, int /*command*/)
 {
-    Window* record = findWindow(window);
+    HandleRecord* record = recordOf(window);
     if (record == nullptr || record->shown)
         return record != nullptr;
     desktop::showWindow(record->native);
@@ -136,7 +72,7 @@ BOOL ShowWindow(HWND window, int /*command*/)
     sendMessage(window, WM_ACTIVATE, WA_ACTIVE, 0);
     // Told again although nothing changed: what a procedure sets up by the size, it can set up
     // once the window is there.
-    record = findWindow(window);
+    record = recordOf(window);
     if (record != nullptr)
         sendSize(*record, client);
     return FALSE;
@@ -161,14 +97,14 @@ HWND SetFocus(HWND window)
 
 LONG GetWindowLongA(HWND window, int index)
 {
-    const Window* record = findWindow(window);
+    const HandleRecord* record = recordOf(window);
     return record != nullptr && index == GWL_STYLE ? static_cast<LONG>(record->style) : 0;
 }
 
 LONG SetWindowLongA(HWND window, int index, LONG value)
 {
     const LONG previous = GetWindowLongA(window, index);
-    Window* record = findWindow(window);
+    HandleRecord* record = recordOf(window);
     if (record != nullptr && index == GWL_STYLE)
         record->style = static_cast<DWORD>(value);
     return previous;
