@@ -24,15 +24,14 @@ struct Size {
     bool operator==(const Size&) const = default;
 };
 
-/// Something that happened to a window, in Win32's terms: `message` with its parameters, and for
-/// a mouse message where the pointer was on the desktop. WM_SIZE carries the new client size;
-/// WM_ACTIVATE its minimised flag.
+/// Something that happened to a window, in Win32's terms: `message` with its parameters.
 struct Message {
     NativeWindow window = 0;
     UINT message = 0;
-    WPARAM wParam = 0;
+    WPARAM wParam = 0; ///< For WM_ACTIVATE the high word is 1 while the window is minimised.
     LPARAM lParam = 0;
-    POINT pointer{};
+    POINT pointer{}; ///< For a mouse message where the pointer was on the desktop.
+    Size client{};   ///< For WM_SIZE the client area's size, which `lParam` does not tell.
 };
 
 /// Finds out whether the program was started to draw in another one's window: `--window-id N`
@@ -48,8 +47,9 @@ bool chooseHost(int argumentCount, const char* const* arguments);
 /// Where the pointer is now.
 [[nodiscard]] bool pointerPosition(POINT& result);
 
-/// The next thing that happened, in order; false when nothing waits. A size of before the last
-/// `placeWindow` is out of date and is not reported.
+/// The next thing that happened, in order; false when nothing waits. Sizes come last: after a
+/// window was made, placed, or resized by others, the size that it has by now is reported once,
+/// whether or not it is news.
 [[nodiscard]] bool nextMessage(Message& result);
 
 /// Ends the connection; every window and context is gone with it. Harmless without one.

@@ -6,7 +6,6 @@
 #include "platform/window_handles.h"
 #include "platform/windows.h"
 
-#include <cstdint>
 #include <optional>
 #include <utility>
 
@@ -35,8 +34,7 @@ bool sentAtOnce(HWND window, const desktop::Message& message)
 {
     switch (message.message) {
     case WM_SIZE:
-        tellSize(window, {LOWORD(static_cast<std::uintptr_t>(message.lParam)),
-                          HIWORD(static_cast<std::uintptr_t>(message.lParam))});
+        tellSize(window, message.client);
         return true;
     case WM_ACTIVATE:
         sendMessage(window, message.message, message.wParam, message.lParam);

@@ -20,7 +20,7 @@ constexpr int altKey = 0x12;
 
 Message plainMessage(const WindowRecord& record, UINT kind, WPARAM wParam, LPARAM lParam)
 {
-    return {record.id, kind, wParam, lParam, {}};
+    return {record.id, kind, wParam, lParam, {}, {}};
 }
 
 // `event` is of one of the types that say where the pointer is, which lay it out alike.
@@ -193,12 +193,11 @@ bool platform::desktop::nextMessage(Message& result)
         if (translate(event, result))
             return true;
     }
-    WindowRecord* const resized = windowOfUnreportedSize();
+    WindowRecord* const resized = windowOfUntoldSize();
     if (resized == nullptr)
         return false;
-    resized->reportedSize = resized->client;
-    result = plainMessage(*resized, WM_SIZE, SIZE_RESTORED,
-                          MAKELPARAM(static_cast<WORD>(resized->client.width),
-                                     static_cast<WORD>(resized->client.height)));
+    resized->sizeIsToTell = false;
+    result = plainMessage(*resized, WM_SIZE, SIZE_RESTORED, 0);
+    result.client = resized->client;
     return true;
 }

@@ -96,10 +96,10 @@ WindowRecord* findWindow(desktop::NativeWindow window)
     return found == records.end() ? nullptr : &*found;
 }
 
-WindowRecord* windowOfUnreportedSize()
+WindowRecord* windowOfUntoldSize()
 {
     const auto found = std::find_if(records.begin(), records.end(), [](const WindowRecord& record) {
-        return record.id != 0 && record.client != record.reportedSize;
+        return record.id != 0 && record.sizeIsToTell;
     });
     return found == records.end() ? nullptr : &*found;
 }
@@ -117,6 +117,7 @@ void updateClientSize(Display* display, WindowRecord& record)
     if (size == desktop::Size{} || size == record.client)
         return;
     record.client = size;
+    record.sizeIsToTell = true;
     fitBackBuffer(record.id);
 }
 
@@ -148,7 +149,6 @@ NativeWindow createWindow(const char* title, int x, int y, Size client)
     made.format = windowFormat(display);
     made.colormap = XCreateColormap(display, area.parent, made.format.visual, AllocNone);
     made.origin = area.corner;
-    made.reportedSize = client;
     made.client = hosted() ? area.size : client;
     made.id = makeWindow(display, area, hosted() ? POINT{0, 0} : POINT{x, y}, made);
     if (!hosted())
@@ -202,7 +202,7 @@ bool placeWindow(NativeWindow window, int x, int y, Size client, bool topmost)
     WindowRecord* const record = findWindow(window);
     if (record == nullptr)
         return false;
-    record->reportedSize = client;
+    record->sizeIsToTell = true; // the manager or the host may have given it another
     if (hosted())
         return true;
     Display* const display = connection();

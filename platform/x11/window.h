@@ -14,9 +14,9 @@ struct WindowRecord {
     ::Window id = 0;       ///< The NativeWindow that the port hands out, and the GLX drawable.
     WindowFormat format{}; ///< A null config: made without GLX, on the default visual.
     Colormap colormap = 0;
-    POINT origin{};             ///< The desktop's corner on the root window, when last placed.
-    desktop::Size client;       ///< As the server last said.
-    desktop::Size reportedSize; ///< What the program believes; WM_SIZE follows where it differs.
+    POINT origin{};           ///< The desktop's corner on the root window, when last placed.
+    desktop::Size client;     ///< As the server last said.
+    bool sizeIsToTell = true; ///< The program has not been told `client` since it may have changed.
     bool shown = false;
     bool pointerHidden = false;          ///< While it is over this window.
     bool iconic = false, hidden = false; ///< Either one is minimised.
@@ -29,8 +29,8 @@ struct WindowRecord {
 /// where it is until then.
 [[nodiscard]] WindowRecord* findWindow(desktop::NativeWindow window);
 
-/// A window whose program does not know its size yet; null when there is none.
-[[nodiscard]] WindowRecord* windowOfUnreportedSize();
+/// A window of which the size is to be told; null when there is none.
+[[nodiscard]] WindowRecord* windowOfUntoldSize();
 
 /// One of our windows that has been shown; 0 when there is none.
 [[nodiscard]] ::Window shownWindow();

@@ -192,7 +192,7 @@ TEST_F(Shell, SwapsAndHoldsTheBallsAlsoWhileItIsMinimised)
 {
     play(0);
     play(WM_ACTIVATE, 0x10000);
-    play(WM_SIZE, SIZE_RESTORED, MAKELPARAM(40000, 30000));
+    headless_desktop::resize({40000, 30000});
     play(WM_KEYDOWN, VK_TAB);
     EXPECT_EQ(run(), 1u);
     EXPECT_THAT(joined(headless_desktop::takeRequests()),

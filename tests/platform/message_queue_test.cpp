@@ -43,7 +43,7 @@ TEST_F(MessageQueue, SendsASizeAtOnceAndDropsWhatIsForADestroyedWindow)
 {
     const HWND other = create();
     takeSent();
-    play(WM_SIZE, SIZE_RESTORED, MAKELPARAM(640, 480));
+    headless_desktop::resize({640, 480});
     play(WM_CLOSE);
     play(WM_CLOSE);
     MSG message{};

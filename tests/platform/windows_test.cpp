@@ -13,8 +13,8 @@ TEST_F(TestWindow, IsToldEverySizeOnce)
     ShowWindow(second, SW_SHOW);
     EXPECT_THAT(takeSent(), ElementsAre(Sent{WM_ACTIVATE, 1}, Sent{WM_SIZE, MAKELPARAM(800, 600)}));
     EXPECT_TRUE(SetWindowPos(second, HWND_TOPMOST, 0, 0, 1024, 767, 0));
-    headless_desktop::play(WM_SIZE, SIZE_RESTORED, asked.second);
-    headless_desktop::play(WM_SIZE, SIZE_RESTORED, given.second);
+    headless_desktop::resize({1024, 767});
+    headless_desktop::resize({1024, 768});
     EXPECT_THAT(takeSent(), ElementsAre(asked, given));
     headless_desktop::fail("placeWindow");
     EXPECT_FALSE(SetWindowPos(second, HWND_TOPMOST, 0, 0, 1, 1, 0));

@@ -53,7 +53,13 @@ void setPointer(POINT position)
 void play(UINT message, WPARAM wParam, LPARAM lParam, POINT pointer)
 {
     const auto window = std::max<NativeWindow>(state.newestWindow, 1);
-    state.script.push_back({window, message, wParam, lParam, pointer});
+    state.script.push_back({window, message, wParam, lParam, pointer, {}});
+}
+
+void resize(Size client)
+{
+    play(WM_SIZE, SIZE_RESTORED);
+    state.script.back().client = client;
 }
 
 void fail(const std::string& name)

@@ -19,6 +19,9 @@ void setPointer(POINT position);
 /// mouse message at `pointer` on the desktop. Message 0 is a pause: nothing waits for once.
 void play(UINT message, WPARAM wParam = 0, LPARAM lParam = 0, POINT pointer = {});
 
+/// The same window's size becomes this one.
+void resize(platform::desktop::Size client);
+
 /// From now on requests of this name fail. They are kept all the same.
 void fail(const std::string& name);
 

@@ -125,7 +125,7 @@ TEST_F(BackBuffer, KeepsThePictureOverAChangeOfSizeAsFarAsItFits)
 
     XResizeWindow(server, window, 640, 480);
     XSync(server, False);
-    EXPECT_EQ(next(WM_SIZE).lParam, MAKELPARAM(640, 480)); // those before are no news
+    EXPECT_EQ(next(WM_SIZE).client, (Size{640, 480})); // the last of all
 }
 
 TEST_F(BackBuffer, ReadsAnAlphaOf1InAFormatWithAlphaToo)
