@@ -118,10 +118,34 @@ constexpr WPARAM WA_INACTIVE = 0;
 constexpr WPARAM WA_ACTIVE = 1;
 constexpr WPARAM SIZE_RESTORED = 0;
 
-// Virtual keys that the shell or the message layer names; platform/x11/keys.cpp has them all.
+// Virtual keys. Letters and digits have the codes of their capitals in ASCII; those of the keypad's
+// digits and of the function keys follow the first one's.
+constexpr int VK_BACK = 0x08;
 constexpr int VK_TAB = 0x09;
+constexpr int VK_CLEAR = 0x0C;
+constexpr int VK_RETURN = 0x0D;
+constexpr int VK_SHIFT = 0x10;
+constexpr int VK_CONTROL = 0x11;
+constexpr int VK_MENU = 0x12; // Alt
+constexpr int VK_PAUSE = 0x13;
+constexpr int VK_CAPITAL = 0x14; // Caps Lock
 constexpr int VK_ESCAPE = 0x1B;
+constexpr int VK_SPACE = 0x20;
+constexpr int VK_PRIOR = 0x21; // Page Up; VK_NEXT follows
+constexpr int VK_END = 0x23;
+constexpr int VK_HOME = 0x24;
+constexpr int VK_LEFT = 0x25; // VK_UP, VK_RIGHT and VK_DOWN follow
+constexpr int VK_SNAPSHOT = 0x2C;
+constexpr int VK_INSERT = 0x2D; // VK_DELETE follows
+constexpr int VK_DELETE = 0x2E;
+constexpr int VK_LWIN = 0x5B; // VK_RWIN follows
+constexpr int VK_APPS = 0x5D;
+constexpr int VK_NUMPAD0 = 0x60;
+constexpr int VK_MULTIPLY = 0x6A; // VK_ADD, _SEPARATOR, _SUBTRACT, _DECIMAL, _DIVIDE follow
+constexpr int VK_F1 = 0x70;
 constexpr int VK_F4 = 0x73;
+constexpr int VK_NUMLOCK = 0x90;
+constexpr int VK_SCROLL = 0x91;
 
 // Metrics, pixel formats, boxes, system parameters.
 constexpr int SM_CXBORDER = 5;

@@ -16,8 +16,6 @@ namespace {
 
 using desktop::Message;
 
-constexpr int altKey = 0x12;
-
 Message plainMessage(const WindowRecord& record, UINT kind, WPARAM wParam, LPARAM lParam)
 {
     return {record.id, kind, wParam, lParam, {}, {}};
@@ -50,7 +48,7 @@ bool onKey(WindowRecord& record, const XEvent& event, Message& result)
     const int code = virtualKey(event.xkey);
     if (code == 0 || (released && isRepeat(event.xkey)))
         return false;
-    const bool system = code == altKey || (event.xkey.state & Mod1Mask) != 0;
+    const bool system = code == VK_MENU || (event.xkey.state & Mod1Mask) != 0;
     const UINT pressKind = system ? WM_SYSKEYDOWN : WM_KEYDOWN;
     const UINT releaseKind = system ? WM_SYSKEYUP : WM_KEYUP;
     result = plainMessage(record, released ? releaseKind : pressKind, static_cast<WPARAM>(code), 1);

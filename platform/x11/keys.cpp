@@ -1,5 +1,7 @@
 #include "platform/x11/keys.h"
 
+#include "platform/win32_names.h"
+
 #include <X11/keysym.h>
 #include <X11/XKBlib.h>
 
@@ -23,44 +25,44 @@ constexpr KeyRange keyRanges[] = {
     {XK_0, XK_9, '0'},
     {XK_A, XK_Z, 'A'},
     {XK_a, XK_z, 'A'},
-    {XK_space, XK_space, 0x20},
+    {XK_space, XK_space, VK_SPACE},
     // editing
-    {XK_BackSpace, XK_Tab, 0x08},
-    {XK_ISO_Left_Tab, XK_ISO_Left_Tab, 0x09},
-    {XK_Clear, XK_Clear, 0x0C},
-    {XK_Return, XK_Return, 0x0D},
-    {XK_Pause, XK_Pause, 0x13},
-    {XK_Escape, XK_Escape, 0x1B},
-    {XK_Print, XK_Print, 0x2C},
-    {XK_Insert, XK_Insert, 0x2D},
-    {XK_Delete, XK_Delete, 0x2E},
-    {XK_Menu, XK_Menu, 0x5D},
+    {XK_BackSpace, XK_Tab, VK_BACK}, // then Tab
+    {XK_ISO_Left_Tab, XK_ISO_Left_Tab, VK_TAB},
+    {XK_Clear, XK_Clear, VK_CLEAR},
+    {XK_Return, XK_Return, VK_RETURN},
+    {XK_Pause, XK_Pause, VK_PAUSE},
+    {XK_Escape, XK_Escape, VK_ESCAPE},
+    {XK_Print, XK_Print, VK_SNAPSHOT},
+    {XK_Insert, XK_Insert, VK_INSERT},
+    {XK_Delete, XK_Delete, VK_DELETE},
+    {XK_Menu, XK_Menu, VK_APPS},
     // movement
-    {XK_Prior, XK_Next, 0x21},
-    {XK_End, XK_End, 0x23},
-    {XK_Home, XK_Home, 0x24},
-    {XK_Left, XK_Down, 0x25}, // left, up, right, down
+    {XK_Prior, XK_Next, VK_PRIOR},
+    {XK_End, XK_End, VK_END},
+    {XK_Home, XK_Home, VK_HOME},
+    {XK_Left, XK_Down, VK_LEFT}, // left, up, right, down
     // keypad
-    {XK_KP_Enter, XK_KP_Enter, 0x0D},
-    {XK_KP_Prior, XK_KP_Next, 0x21},
-    {XK_KP_End, XK_KP_End, 0x23},
-    {XK_KP_Home, XK_KP_Home, 0x24},
-    {XK_KP_Left, XK_KP_Down, 0x25}, // left, up, right, down
-    {XK_KP_Begin, XK_KP_Begin, 0x0C},
-    {XK_KP_Insert, XK_KP_Delete, 0x2D},
-    {XK_KP_0, XK_KP_9, 0x60},
-    {XK_KP_Multiply, XK_KP_Divide, 0x6A}, // multiply, add, separator, subtract, decimal, divide
+    {XK_KP_Enter, XK_KP_Enter, VK_RETURN},
+    {XK_KP_Prior, XK_KP_Next, VK_PRIOR},
+    {XK_KP_End, XK_KP_End, VK_END},
+    {XK_KP_Home, XK_KP_Home, VK_HOME},
+    {XK_KP_Left, XK_KP_Down, VK_LEFT}, // left, up, right, down
+    {XK_KP_Begin, XK_KP_Begin, VK_CLEAR},
+    {XK_KP_Insert, XK_KP_Delete, VK_INSERT},
+    {XK_KP_0, XK_KP_9, VK_NUMPAD0},
+    {XK_KP_Multiply, XK_KP_Divide, VK_MULTIPLY}, // * + separator - decimal point /
     // functions
-    {XK_F1, XK_F24, 0x70},
+    {XK_F1, XK_F24, VK_F1},
     // modifiers: left and right are one key
-    {XK_Shift_L, XK_Shift_R, 0x10, true},
-    {XK_Control_L, XK_Control_R, 0x11, true},
-    {XK_Meta_L, XK_Alt_R, 0x12, true},
-    {XK_ISO_Level3_Shift, XK_ISO_Level3_Shift, 0x12},
-    {XK_Caps_Lock, XK_Caps_Lock, 0x14},
-    {XK_Super_L, XK_Super_R, 0x5B},
-    {XK_Num_Lock, XK_Num_Lock, 0x90},
-    {XK_Scroll_Lock, XK_Scroll_Lock, 0x91},
+    {XK_Shift_L, XK_Shift_R, VK_SHIFT, true},
+    {XK_Control_L, XK_Control_R, VK_CONTROL, true},
+    {XK_Meta_L, XK_Alt_R, VK_MENU, true},
+    {XK_ISO_Level3_Shift, XK_ISO_Level3_Shift, VK_MENU}, // AltGr
+    {XK_Caps_Lock, XK_Caps_Lock, VK_CAPITAL},
+    {XK_Super_L, XK_Super_R, VK_LWIN},
+    {XK_Num_Lock, XK_Num_Lock, VK_NUMLOCK},
+    {XK_Scroll_Lock, XK_Scroll_Lock, VK_SCROLL},
 };
 
 // The code of what a key gives in one language, `group`: unshifted, or else shifted, as a French
