@@ -9,16 +9,19 @@
 
 namespace {
 
-constexpr float fieldOfView = 90.0f;    // see setPerspective
-constexpr float nearDistance = 1.0f;    // world units
-constexpr float farDistance = 15000.0f; // world units
+// What the saver's camera keeps whatever the window's size.
+constexpr float fixedFieldOfView = 90.0f; // see setPerspective
+constexpr float fixedNear = 1.0f;         // world units
+constexpr float fixedFar = 15000.0f;      // world units
 constexpr Vec3 fixedEye{0.0f, 0.0f, -500.0f};
 constexpr Vec3 fixedTarget{0.0f, 0.0f, 0.0f};
 
-// In clip space a plane of the view is where one coordinate, times its side, equals w.
+// A point is inside the view volume while -w <= x, y, z <= w in clip space. Each of these six
+// inequalities is a plane in world space, whose coefficients are a sum or difference of two rows of
+// the matrix to clip space (the method of Gribb and Hartmann).
 struct ClipSide {
-    std::size_t row;
-    float side;
+    std::size_t row; // of the coordinate: 0 x, 1 y, 2 z
+    float side;      // 1 for coordinate <= w, -1 for -w <= coordinate
 };
 
 // In the frustum's order: right, left, bottom, top, near, far.
@@ -31,6 +34,7 @@ constexpr std::array<ClipSide, Frustum::planeCount> clipSides{{
     {2, 1.0f},
 }};
 
+// side * row - row of w: positive outside, as the frustum's normals point out of the view volume.
 Plane planeOf(const Matrix4& m, const ClipSide& clip)
 {
     const auto element = [&](std::size_t column) {
@@ -46,7 +50,7 @@ void loadMatrix(GLenum mode, const Matrix4& matrix, bool use)
         glLoadIdentity();
         return;
     }
-    std::array<GLfloat, 16> columns; // OpenGL's order is the transpose of ours
+    std::array<GLfloat, 16> columns; // OpenGL stores matrices column by column
     for (std::size_t row = 0; row < 4; ++row)
         for (std::size_t column = 0; column < 4; ++column)
             columns[4 * column + row] = matrix(row, column);
@@ -67,7 +71,8 @@ void Camera::setPerspective(float newFieldOfView, float newAspect, float newNear
     near = newNear;
     far = newFar;
 
-    // Meant: not the cotangent of half an angle. The size of everything seen hangs on it.
+    // Meant: the arc tangent of the number, not the cotangent of half an angle. It decides how
+    // large everything is seen.
     const auto scale = static_cast<float>(std::atan(0.5 * fieldOfView));
     projection.elements.fill(0.0f);
     projection(0, 0) = scale / aspect;
@@ -79,18 +84,18 @@ void Camera::setPerspective(float newFieldOfView, float newAspect, float newNear
 
 void Camera::lookAt(const Vec3& newEye, const Vec3& target)
 {
-    back = target - newEye; // towards the target until the basis stands
-    back.normalize();
-    const bool straightUpOrDown = back.x == 0.0f && back.z == 0.0f;
-    up = straightUpOrDown ? Vec3(-back.y, 0.0f, 0.0f) : Vec3(0.0f, 1.0f, 0.0f);
-    // Meant: up x direction and not its opposite, which mirrors the picture.
-    right = cross(up, back);
+    Vec3 forward = target - newEye;
+    forward.normalize();
+    const bool straightUpOrDown = forward.x == 0.0f && forward.z == 0.0f;
+    up = straightUpOrDown ? Vec3(-forward.y, 0.0f, 0.0f) : Vec3(0.0f, 1.0f, 0.0f);
+    // Meant: up x forward and not its opposite, which mirrors the picture.
+    right = cross(up, forward);
     right.normalize();
-    up = cross(right, back);
+    up = cross(right, forward); // perpendicular to both, but upside down
     up.normalize();
     up = up * -1.0f;
+    back = forward * -1.0f;
     eye = newEye;
-    back = back * -1.0f;
     view = Matrix4::fromRows(right, up, back) * Matrix4::translation(-eye.x, -eye.y, -eye.z);
 }
 
@@ -116,7 +121,7 @@ void resizeGlView(std::int32_t width, std::int32_t height)
     windowHeight = height;
     glViewport(0, 0, width, height);
     const float aspect = static_cast<float>(width) / static_cast<float>(height == 0 ? 1 : height);
-    camera.setPerspective(fieldOfView, aspect, nearDistance, farDistance);
+    camera.setPerspective(fixedFieldOfView, aspect, fixedNear, fixedFar);
     camera.lookAt(fixedEye, fixedTarget);
     camera.loadIntoGl();
     camera.frustum.refreshSelectors();

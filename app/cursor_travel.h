@@ -5,12 +5,13 @@
 #include <cstdint>
 #include <cstdlib>
 
-/// How far the cursor has gone in all, in pixels along x and along y. Small ways add up: there is
-/// no way back to 0.
+/// The total distance that the cursor has moved, in pixels: the sum of |dx| + |dy| over all moves
+/// (city-block distance). It only grows.
 class CursorTravel {
 public:
-    /// Adds the way to `position`; true once it has gone too far. The first position only marks
-    /// the start: the mouse may lie anywhere when the window appears.
+    /// Adds the move to `position`, on the screen. True once the total exceeds 100 pixels. The
+    /// first position is where counting starts, since the cursor may be anywhere when the window
+    /// appears.
     [[nodiscard]] bool moveTo(POINT position)
     {
         if (started)

@@ -11,7 +11,7 @@ constexpr const char* className = "OpenGL";
 constexpr DWORD windowStyle = WS_POPUP | WS_CLIPSIBLINGS | WS_CLIPCHILDREN;
 constexpr DWORD extendedStyle = WS_EX_APPWINDOW;
 
-// No depth, no stencil, no alpha: the picture is only ever drawn over.
+// No depth, stencil or alpha: a frame is blended over the one before, and nothing is depth-tested.
 constexpr PIXELFORMATDESCRIPTOR colorOnly()
 {
     PIXELFORMATDESCRIPTOR descriptor{};
@@ -22,7 +22,7 @@ constexpr PIXELFORMATDESCRIPTOR colorOnly()
     return descriptor;
 }
 
-constinit PIXELFORMATDESCRIPTOR pixelFormat = colorOnly(); // its colour bits come with a request
+constinit PIXELFORMATDESCRIPTOR pixelFormat = colorOnly(); // colour bits: set by the first request
 
 bool refuse(const char* text)
 {
@@ -30,7 +30,7 @@ bool refuse(const char* text)
     return false;
 }
 
-// Releases what was made so far before it speaks: nothing of ours is left behind the box.
+// Releases what was made so far before it shows the box, so that no window of ours is behind it.
 bool giveUp(const char* text)
 {
     closeGlWindow();
@@ -114,12 +114,12 @@ void coverScreen(HWND window)
     ReleaseDC(nullptr, screen);
     SetWindowLongA(window, GWL_STYLE,
                    GetWindowLongA(window, GWL_STYLE) & ~static_cast<LONG>(WS_DLGFRAME));
-    // Meant: one row short of the screen, 1024 x 767 on a desktop of 1024 x 768.
+    // Meant: one row less than the screen has, 1024 x 767 on a desktop of 1024 x 768.
     SetWindowPos(window, HWND_TOPMOST, 0, 0, width, height - 1, 0);
     ShowCursor(FALSE);
 }
 
-// A handle is forgotten when its release failed; after a release that worked nobody asks for it.
+// A handle is cleared when its release has failed. After a successful one it is not used again.
 void closeGlWindow()
 {
     if (glWindow.renderingContext != nullptr)

@@ -2,7 +2,7 @@
 
 #include "platform/win32.h"
 
-/// What the saver's only window is made of; null where there is nothing to release.
+/// The handles of the saver's only window; null where there is nothing to release.
 struct GlWindow {
     HINSTANCE instance = nullptr;
     HWND window = nullptr;
@@ -12,15 +12,17 @@ struct GlWindow {
 
 extern constinit GlWindow glWindow;
 
-/// Opens a borderless window, `width` by `height` pixels, with a double-buffered context that is
-/// current afterwards, and tells the system that a screen saver runs. False when that cannot be
-/// done: everything is released again by then, and a box has said why. Counts only the first
-/// call's `colorBits`.
+/// Opens a borderless window with a client area of `width` x `height` pixels and a double-buffered
+/// RGBA context, which is current afterwards, and sets the system's screen-saver-running flag. The
+/// pixel format has `colorBits` bits of colour, as the first call asks for them, and no depth,
+/// stencil or alpha. On failure everything is released again, a box names the step that failed,
+/// and the result is false.
 [[nodiscard]] bool openGlWindow(const char* title, int width, int height, int colorBits);
 
-/// Stretches `window` over the whole screen, above all others, and hides the cursor for good.
+/// Makes `window` topmost, stretches it over the screen less its last row of pixels, and hides the
+/// cursor. The size message that follows runs `resizeGlView`.
 void coverScreen(HWND window);
 
-/// Releases what `openGlWindow` made, and tells the system that no screen saver runs any more.
-/// Each step that fails is reported in a box; the others are still done.
+/// Releases what `openGlWindow` made and clears the screen-saver-running flag. A step that fails is
+/// reported in a box, and the next one follows all the same.
 void closeGlWindow();

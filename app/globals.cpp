@@ -6,23 +6,24 @@
 #include "zrk/renderer.h"
 #include "zrk/shaders/layer_registry.h"
 
-// The long-lived objects. Built from top to bottom before the entry runs, destroyed from bottom
-// to top after it returns.
+// The long-lived objects, constructed from top to bottom before the entry runs and destroyed from
+// bottom to top after it returns. They are defined in one file because the order across several
+// files is not defined.
 
 Camera camera;
-constinit Frustum& viewFrustum = camera.frustum; // what surfaces know of the camera
+constinit Frustum& viewFrustum = camera.frustum; // all that surfaces see of the camera
 
 namespace zrk {
-LayerRegistry layerRegistry; // outlives the shaders that borrow its layers
+LayerRegistry layerRegistry; // owns the layers that shaders point to
 LibraryData libraryData;     // textures, then shaders
 } // namespace zrk
 
-MetaballSurface metaballSurface; // borrows a shader of the library's
+MetaballSurface metaballSurface; // points to a shader of the library
 Vec3 amplitudes[metaballCount];
 Vec3 frequencies[metaballCount];
 Vec3 phases[metaballCount];
 float radii[metaballCount];
 
 namespace zrk {
-Renderer renderer; // first to go, and takes SDL with it
+Renderer renderer; // destroyed first, and shuts SDL down
 }

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int colorBits = 32;
 
-/// Handles every waiting message; the code of a request to quit, where one is among them.
+/// Dispatches every waiting message. The exit code of WM_QUIT if that is among them.
 std::optional<int> drainMessages()
 {
     MSG message;
@@ -25,7 +25,8 @@ std::optional<int> drainMessages()
     return std::nullopt;
 }
 
-/// False once the run is done. A minimised window is not drawn, but still swapped.
+/// Draws and shows one frame; false once the run is over. While the window is minimised nothing is
+/// drawn, but the buffers are swapped and Escape still counts.
 bool runFrame()
 {
     if (windowActive && !drawFrame())
@@ -36,8 +37,8 @@ bool runFrame()
     return true;
 }
 
-/// Draws frames until the user ends the run. A run ended by Escape is a normal one, whatever
-/// message came last.
+/// Draws frames until the user ends the run, and returns the exit status: the code of WM_QUIT, or 0
+/// after Escape. Tab holds the balls at their places of time 0.
 int runFrames()
 {
     for (bool done = false; !done;) {

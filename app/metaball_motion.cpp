@@ -6,23 +6,23 @@
 
 namespace {
 
-constexpr int randomRange = 32768; // values that a draw can have, whatever RAND_MAX is
+constexpr int randomRange = 32768; // distinct random values, whatever RAND_MAX is
 
-int draw()
+int randomValue()
 {
     return std::rand() % randomRange;
 }
 
-// From `low` to `low + extent`, that one excluded.
-float drawFrom(double low, double extent)
+// Uniform in [low, low + extent).
+float randomFrom(double low, double extent)
 {
-    return static_cast<float>(draw() * (extent / randomRange) + low);
+    return static_cast<float>(randomValue() * (extent / randomRange) + low);
 }
 
-Vec3 drawVector(double low, double extent)
+Vec3 randomVector(double low, double extent)
 {
-    // Braces keep the draws in order; the arguments of a call might be drawn in any.
-    return Vec3{drawFrom(low, extent), drawFrom(low, extent), drawFrom(low, extent)};
+    // Braces evaluate from left to right; the arguments of a call may be evaluated in any order.
+    return Vec3{randomFrom(low, extent), randomFrom(low, extent), randomFrom(low, extent)};
 }
 
 } // namespace
@@ -30,10 +30,10 @@ Vec3 drawVector(double low, double extent)
 MetaballMotion randomMotion()
 {
     return MetaballMotion{
-        .amplitude = drawVector(0.0, amplitudeLimit),
-        .frequency = drawVector(-2.0, 4.0),
-        .phase = drawVector(0.0, 2.0 * std::numbers::pi),
-        .radius = drawFrom(150.0, 350.0),
+        .amplitude = randomVector(0.0, amplitudeLimit),
+        .frequency = randomVector(-2.0, 4.0),
+        .phase = randomVector(0.0, 2.0 * std::numbers::pi),
+        .radius = randomFrom(150.0, 350.0),
     };
 }
 
@@ -41,7 +41,7 @@ Vec3 centreAt(const MetaballMotion& motion, float time)
 {
     const auto& [amplitude, frequency, phase, radius] = motion;
     const double t = time;
-    // A cosine on y only: it is meant.
+    // Meant: a cosine on y, sines on x and z.
     return {static_cast<float>(amplitude.x * std::sin((t + phase.x) * frequency.x)),
             static_cast<float>(amplitude.y * std::cos((t + phase.y) * frequency.y)),
             static_cast<float>(amplitude.z * std::sin((t + phase.z) * frequency.z))};

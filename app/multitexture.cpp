@@ -8,9 +8,9 @@
 
 namespace {
 
-constexpr GLint fewestUnits = 2; // with one there is nothing to select
+constexpr GLint fewestUnits = 2; // with one unit there is nothing to select
 
-// The number is asked for last: without the extension OpenGL does not know its name.
+// Without the extension GL_MAX_TEXTURE_UNITS is an error, so it is queried last.
 GLint textureUnits()
 {
     const auto* extensions = reinterpret_cast<const char*>(glGetString(GL_EXTENSIONS));
@@ -40,7 +40,7 @@ void obtainMultitexture()
     const GLint units = textureUnits();
     if (units < fewestUnits)
         return;
-    // What any entry point comes as has to be cast twice to become this one.
+    // Through a plain function pointer: a direct cast between the two types draws a warning.
     using AnyFunction = void (*)();
     const auto function = reinterpret_cast<AnyFunction>(wglGetProcAddress("glActiveTextureARB"));
     if (function == nullptr)

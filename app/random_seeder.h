@@ -3,8 +3,8 @@
 #include <cstdlib>
 #include <ctime>
 
-/// Seeds the C library's random generator with the time, so that no two runs move alike. One
-/// lives for the length of the run.
+/// Seeds the C library's random generator with the time in seconds, so that each run has motions of
+/// its own. The entry holds one for the length of the run.
 class RandomSeeder {
 public:
     RandomSeeder() { std::srand(static_cast<unsigned int>(std::time(nullptr))); }

@@ -16,13 +16,25 @@ constinit std::uint32_t frameCounter = 0;
 namespace {
 
 constexpr const char* dataFile = "###quazo!_data###/caustics.qvd"; // under the Windows directory
-constexpr float regionLimit = amplitudeLimit + 400.0f;             // world units
+
+// The surface. A ball's centre comes as far as the amplitude limit; its field reaches further.
+constexpr float regionLimit = amplitudeLimit + 400.0f; // world units, along each axis
+constexpr std::uint32_t octreeDepth = 5;               // leaf cells of 75 world units
+constexpr float isoLevel = 0.5f;
+
+// The picture: what a frame leaves of the one before, and the colour. Frames are added up, and a
+// part that stands still settles at 1 / fadeAlpha times its colour, which is why that is dim.
 constexpr float fadeAlpha = 0.1f;
+constexpr double highestRed = 0.2;
+constexpr double redFrequency = 0.25; // radians per unit of the animation clock
+constexpr float green = 0.04f;
+constexpr float blue = 0.132f;
+
 constexpr float clockStep = 0.01f;          // of the animation clock, per drawn frame
 constexpr std::uint32_t causticFrames = 32; // the first shaders of the pool
 constexpr std::uint32_t framesPerCaustic = 2;
 
-// Where the directory cannot be had, the data is looked for where we are.
+// When there is no such directory, the data is looked for in the present one.
 void enterWindowsDirectory()
 {
     char directory[MAX_PATH] = "";
@@ -42,10 +54,10 @@ bool loadData()
 
 void prepareSurface()
 {
-    metaballSurface.depthSetting = 5;
+    metaballSurface.depthSetting = octreeDepth;
     metaballSurface.region.max() = Vec3(regionLimit);
     metaballSurface.region.min() = Vec3(-regionLimit);
-    metaballSurface.threshold = 0.5f;
+    metaballSurface.threshold = isoLevel;
     metaballSurface.setBallCount(metaballCount);
 }
 
@@ -59,12 +71,12 @@ void moveBalls()
 
 void setSurfaceColor()
 {
-    const double red = 0.2 * (0.5 + 0.5 * std::sin(0.25 * animationTime));
-    glColor3f(static_cast<float>(red), 0.04f, 0.132f);
+    const double pulse = 0.5 + 0.5 * std::sin(redFrequency * animationTime); // from 0 to 1
+    glColor3f(static_cast<float>(highestRed * pulse), green, blue);
 }
 
-/// The shader of this frame's caustics. A pool of fewer shaders than the cycle has is gone through
-/// again and again.
+/// The shader of this frame's caustics, each shown for two frames in turn. A pool of fewer than 32
+/// shaders repeats within the cycle.
 const zrk::Shader& causticShader()
 {
     const std::uint32_t position = frameCounter / framesPerCaustic % causticFrames;
@@ -74,7 +86,7 @@ const zrk::Shader& causticShader()
 
 } // namespace
 
-void drawMotions()
+void randomizeMotions()
 {
     for (std::uint32_t i = 0; i < metaballCount; ++i) {
         const MetaballMotion motion = randomMotion();
@@ -94,7 +106,7 @@ void startScene()
     }
     zrk::libraryData.upload();
     prepareSurface();
-    drawMotions();
+    randomizeMotions();
 }
 
 bool drawFrame()
@@ -102,7 +114,7 @@ bool drawFrame()
     glEnable(GL_BLEND);
     glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
     zrk::renderer.fadeScreen(fadeAlpha, 0);
-    glDisable(GL_DEPTH_TEST); // the fading leaves it on
+    glDisable(GL_DEPTH_TEST); // fadeScreen leaves it enabled
     moveBalls();
     setSurfaceColor();
     metaballSurface.shader = &causticShader();

@@ -2,17 +2,19 @@
 
 #include <cstdint>
 
-/// Frames drawn so far. The caustics follow it, so that they go on while the clock stands still.
+/// Frames drawn since the start. It picks the shader of a frame, so that the caustics go on while
+/// the animation clock is held at 0.
 extern constinit std::uint32_t frameCounter;
 
-/// Loads the data that lies under the Windows directory, which becomes the current one, uploads
-/// the textures, and gives the surface its settings and every ball a random motion. A context must
-/// be current. Without data, or without a single shader, a box says so and the process ends with
-/// status 1; its window is left to the system.
+/// Makes the Windows directory the current one, loads the data set from there, uploads the
+/// textures, and gives the surface its settings and every ball a random motion. A context must be
+/// current. When the data cannot be loaded, or the shaders pool is empty, shows a box and ends the
+/// process with status 1; the system reclaims the window.
 void startScene();
 
-/// Draws new random paths and radii for all balls.
-void drawMotions();
+/// Gives every ball a new random motion, from the C library's generator.
+void randomizeMotions();
 
-/// Darkens the picture and draws the surface over it, then moves the clock on. Always true.
+/// Fades the previous picture, draws the surface at the present time over it, and advances frame
+/// counter and animation clock. A context must be current. Always true.
 [[nodiscard]] bool drawFrame();

@@ -3,19 +3,19 @@
 #include <array>
 #include <cstdint>
 
-// What the entry, the window, the camera and the scene share. It changes between frames only,
-// never while one is drawn.
+// The state that entry, window, camera and scene share. Messages change it, and those are handled
+// between frames only.
 
-/// By virtual-key code: whether the key is held.
+/// Whether a key is held, by virtual-key code.
 extern constinit std::array<bool, 256> keyDown;
 
-/// False while the window is minimised; a window that only lost the focus stays active.
+/// False while the window is minimised. Losing the focus does not change it.
 extern constinit bool windowActive;
 
-/// Size of the window's client area in pixels; first the size that the window is asked for.
+/// The window's client area in pixels. Its first value is the size that the window is opened with.
 extern constinit std::int32_t windowWidth;
 extern constinit std::int32_t windowHeight;
 
-/// The clock of the balls and of the surface's colour, advanced by every drawn frame. The
-/// caustics do not follow it.
+/// The animation clock, which the balls and the surface's colour follow: 0.01 more per drawn frame,
+/// 0 while Tab is held. The caustics follow `frameCounter` instead.
 extern constinit float animationTime;

@@ -19,7 +19,7 @@ void noteKey(WPARAM virtualKey, bool down)
         keyDown[virtualKey] = down;
 }
 
-// On the screen; the message's own coordinates are in the window.
+// Travel counts on the screen; the message's coordinates are relative to the window.
 void trackCursor()
 {
     POINT position;

@@ -27,7 +27,7 @@ protected:
     static void restart(unsigned seed)
     {
         std::srand(seed);
-        drawMotions();
+        randomizeMotions();
         animationTime = 0.0f;
         glClear(GL_COLOR_BUFFER_BIT);
     }
