@@ -10,21 +10,22 @@
 
 namespace caustics {
 
-/// What decides the loop; the threads, which share its frames out among them, do not.
+/// What to compute. The number of threads, which work on different frames, does not change a byte.
 struct AnimationSettings {
     std::uint64_t seed;
     int size; // texels along a side of an image
     int threads;
 };
 
-/// How many times `makeFiles` calls its `step`, from any of its threads.
+/// How many times `makeFiles` calls its `step`, from any thread.
 constexpr int animationSteps = 2 * frameCount;
 
-/// The light on the floor in each frame: flat tiles half as large again as the images, where 1 is
-/// what the sun would shed on a plane that faces it. Calls `step` after each.
+/// The light on the floor in each frame, in multiples of the sun's irradiance on a plane that faces
+/// it. The tiles have 1.5 times as many texels along a side as the images. Calls `step` after each.
 std::vector<Tile> makeLight(const AnimationSettings& settings, const std::function<void()>& step);
 
-/// The whole data set: the images, scaled by the mean light of them all, and the text files.
+/// The whole data set: the images, all exposed alike by the mean light of the set, and the text
+/// files.
 std::vector<DataFile> makeFiles(const AnimationSettings& settings,
                                 const std::function<void()>& step);
 

@@ -27,8 +27,8 @@ std::string texturesPool()
     return text;
 }
 
-/// Each shader adds its image to the picture. Without the blend layer it would overwrite the
-/// picture, trails and all, and leave it nearly black.
+/// Each shader adds its image to the picture. Without the blend layer the surface would overwrite
+/// the trails, and the picture would be nearly black.
 std::string shadersPool()
 {
     std::string text;

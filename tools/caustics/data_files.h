@@ -17,8 +17,8 @@ struct DataFile {
 /// The name of the image of frame `frame`, inside the folder.
 std::string imageName(int frame);
 
-/// The text files that lead the saver to the images: the data file, the textures pool and the
-/// shaders pool. Their paths begin with the folder, for the saver reads them from above it.
+/// The text files: the data file, the textures pool and the shaders pool. The paths in them begin
+/// with the folder, because the saver reads them from the directory above it.
 std::vector<DataFile> textFiles();
 
 } // namespace caustics

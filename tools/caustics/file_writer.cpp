@@ -12,8 +12,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Holds back every signal that could end the program between two files, and lets a file that
-/// grows too large fail like a full disk.
+/// Blocks the signals that could end the program between two files, and makes a file beyond the
+/// size limit fail like a full disk.
 class SignalsHeld {
 public:
     SignalsHeld()
@@ -31,8 +31,8 @@ private:
     sigset_t before{};
 };
 
-/// What has been made so far, each under the name that it has now. What is still listed at the
-/// end is removed, the latest first.
+/// The files and folders created so far, under their present names. Those still listed at the end
+/// of its life are removed, the latest first.
 class Unfinished {
 public:
     Unfinished() = default;
@@ -57,9 +57,9 @@ bool writeWhole(const fs::path& path, const std::string& bytes)
     return (std::fclose(file) == 0) && written;
 }
 
-std::string cannot(const char* deed, const fs::path& path, int error)
+std::string cannot(const char* action, const fs::path& path, int error)
 {
-    return std::string("cannot ") + deed + " " + path.string() + ": " + std::strerror(error);
+    return std::string("cannot ") + action + " " + path.string() + ": " + std::strerror(error);
 }
 
 } // namespace

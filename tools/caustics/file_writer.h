@@ -8,10 +8,9 @@
 
 namespace caustics {
 
-/// Puts `files` into `folder`, which is made if its parent exists. Every file is written under
-/// a temporary name first and all take their names together, while no signal is let in. Yields
-/// an empty text, or what went wrong; then nothing of these files is left, nor a folder made
-/// for them.
+/// Writes `files` into `folder`, which is created if its parent exists. Every file is written under
+/// a temporary name, and all are renamed at the end, with signals blocked. Returns an empty text,
+/// or the error; then neither these files nor a folder created for them are left.
 std::string writeFiles(const std::filesystem::path& folder, std::span<const DataFile> files);
 
 } // namespace caustics

@@ -7,13 +7,13 @@
 namespace caustics {
 namespace {
 
-/// The sunlight's direction, downwards, of length 1.
+/// The unit vector along which sunlight travels, downwards.
 struct Direction {
     float x, y, z;
 };
 
-/// Where the rays of a row come down, in metres from where they entered the water, and the
-/// light that each brings: what its patch of surface catches and lets through.
+/// Where the rays of a row reach the floor, in metres from where they entered the water, and the
+/// energy of each: what its patch of the surface receives and transmits.
 struct LandedRow {
     std::vector<float> driftX;
     std::vector<float> driftY;
@@ -27,7 +27,8 @@ Direction sunlight()
             static_cast<float>(-std::cos(sunZenith))};
 }
 
-/// What part of unpolarised light passes into the water.
+/// The part of unpolarised light that enters the water: 1 less the mean of the reflectances for the
+/// two polarisations (Fresnel's equations), from the cosines of the angles to the normal.
 float transmittance(float cosineAbove, float cosineBelow)
 {
     constexpr auto index = static_cast<float>(refractiveIndex);
@@ -41,12 +42,14 @@ void refractRow(const SurfaceRow& surface, Direction sun, LandedRow& landed)
     constexpr auto ratio = static_cast<float>(1.0 / refractiveIndex);
     constexpr auto depth = static_cast<float>(waterDepth);
     for (std::size_t i = 0; i < surface.height.size(); ++i) {
-        // The normal is (−slopeX, −slopeY, 1)/length; a patch catches light by its projected area.
+        // The normal is (−slopeX, −slopeY, 1) / length. A patch receives light in proportion to its
+        // area as the sun sees it. Snell's law in vector form, for incoming direction i, normal n
+        // and r = 1 / index: r i + (r cos above − cos below) n.
         const float slopeX = surface.slopeX[i];
         const float slopeY = surface.slopeY[i];
         const float length = std::sqrt(1.0f + slopeX * slopeX + slopeY * slopeY);
-        const float caught = sun.x * slopeX + sun.y * slopeY - sun.z;
-        const float cosineAbove = caught / length;
+        const float received = sun.x * slopeX + sun.y * slopeY - sun.z;
+        const float cosineAbove = received / length;
         const float cosineBelow =
             std::sqrt(1.0f - ratio * ratio * (1.0f - cosineAbove * cosineAbove));
         const float bend = (ratio * cosineAbove - cosineBelow) / length;
@@ -54,7 +57,7 @@ void refractRow(const SurfaceRow& surface, Direction sun, LandedRow& landed)
         const float path = (depth + surface.height[i]) / down;
         landed.driftX[i] = path * (ratio * sun.x - bend * slopeX);
         landed.driftY[i] = path * (ratio * sun.y - bend * slopeY);
-        landed.energy[i] = caught * transmittance(cosineAbove, cosineBelow);
+        landed.energy[i] = received * transmittance(cosineAbove, cosineBelow);
     }
 }
 

@@ -5,14 +5,15 @@
 
 namespace caustics {
 
-constexpr int raysPerTexel = 3; // along a side; fewer leave a pattern where the light is thin
+constexpr int raysPerTexel = 3; // along a side; fewer leave a visible grid where light is sparse
 
-/// A point sun's light on the floor at frame `frame`, where 1 is what the sun would shed on a
-/// plane that faces it. The water's grid decides the rays: the tile has `raysPerTexel` times
-/// fewer texels per side than the water has points.
+/// The light of a point-like sun on the floor at frame `frame`, in multiples of its irradiance on a
+/// plane that faces it: forward ray tracing, one ray for each of the water's points, each landing
+/// on four texels of the floor. The tile has `raysPerTexel` times fewer texels along a side than
+/// the water has points.
 Tile castLight(const WaterSurface& water, int frame);
 
-/// The angle of the refracted sun from the vertical, under calm water, in radians.
+/// The angle between the vertical and the sunlight under calm water, in radians (Snell's law).
 double refractedZenith();
 
 } // namespace caustics

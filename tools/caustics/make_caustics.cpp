@@ -19,7 +19,7 @@ int fail(const std::string& reason)
     return unwritten;
 }
 
-/// Makes everything in memory and writes it at the end, so that a run that is broken off leaves
+/// Computes everything in memory and writes it at the end, so that an interrupted run leaves
 /// nothing behind.
 int makeDataSet(const caustics::Options& options)
 {

@@ -9,19 +9,19 @@ namespace caustics {
 
 const char* const helpText =
     "Usage: make_caustics [options] <directory>\n"
-    "Computes the light that waves gather on the floor of a pool, wraps it on spheres, and puts\n"
-    "it into <directory>/###quazo!_data###/ with the files that lead the saver to it.\n"
+    "Computes the caustics on the floor of a pool, wraps them on spheres, and writes them to\n"
+    "<directory>/###quazo!_data###/ with the text files that the saver reads.\n"
     "\n"
-    "  --seed <number>     which sea: the same number makes the same files (default 13)\n"
+    "  --seed <number>     chooses the waves; equal seeds give equal files (default 13)\n"
     "  --size <texels>     the side of an image, 16 to 512 (default 512)\n"
-    "  --threads <number>  how many at work, 1 to 64 (default: one per processor)\n"
-    "  --help              show this text and end\n"
+    "  --threads <number>  1 to 64 (default: one per processor)\n"
+    "  --help              shows this text\n"
     "\n"
     "Exit status: 0 when all files are written, 1 when they cannot be, 2 for a wrong call.\n";
 
 namespace {
 
-/// An option that takes a whole number: the numbers that it allows, and where they go.
+/// An option with a whole number: its range, and the field that it sets.
 struct NumberOption {
     const char* name;
     std::uint64_t least;
@@ -61,7 +61,7 @@ bool storeNumber(const NumberOption& option, std::string_view text, Options& opt
 std::optional<Options> readOptions(std::span<const char* const> arguments, std::ostream& errors)
 {
     const auto refuse = [&errors](const auto&... parts) {
-        ((errors << "make_caustics: ") << ... << parts) << "; --help tells more\n";
+        ((errors << "make_caustics: ") << ... << parts) << "; see --help\n";
         return std::nullopt;
     };
     Options options;

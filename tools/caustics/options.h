@@ -8,7 +8,7 @@
 
 namespace caustics {
 
-/// What the command line asks for.
+/// The settings of the command line.
 struct Options {
     std::filesystem::path directory; // where the data set's folder goes
     std::uint64_t seed = 13;
@@ -19,8 +19,8 @@ struct Options {
 
 extern const char* const helpText;
 
-/// Reads the arguments that follow the program's name. If they make no sense, says why on
-/// `errors`, in one line, and yields nothing.
+/// Reads the arguments that follow the program's name. A wrong call is one line on `errors` and
+/// returns nothing.
 std::optional<Options> readOptions(std::span<const char* const> arguments, std::ostream& errors);
 
 } // namespace caustics

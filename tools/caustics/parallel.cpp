@@ -30,7 +30,7 @@ void inParallel(int count, int threads, const std::function<void(int)>& work)
         try {
             for (int i = 1; i < std::min(threads, count); ++i)
                 others.emplace_back(workOn);
-        } catch (const std::system_error&) { // fewer do it too
+        } catch (const std::system_error&) { // those that were started do all the work
         }
         workOn();
     }

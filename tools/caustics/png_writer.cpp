@@ -18,6 +18,8 @@ png_byte byteOf(float brightness)
 
 std::array<png_color, 256> palette()
 {
+    // The texture multiplies the surface's colour, which has little green: much of it here lets
+    // bright filaments tend towards white.
     std::array<png_color, 256> colours{};
     for (std::size_t i = 0; i < colours.size(); ++i) {
         const float tone = static_cast<float>(i) / 255.0f;
@@ -36,8 +38,8 @@ void append(png_structp png, png_bytep bytes, size_t count)
 
 void flushNothing(png_structp) {}
 
-/// The library reports an error by a jump back to here, past every destructor: so nothing in this
-/// function has one.
+/// libpng reports an error by longjmp to this function, which skips destructors: no local here may
+/// have one.
 bool write(png_structp png, png_infop info, const GreyPicture& picture,
            const std::array<png_color, 256>& colours)
 {

@@ -6,8 +6,8 @@
 
 namespace caustics {
 
-/// The picture as the bytes of a PNG file: 8-bit indices into the colours of caustics, from black
-/// through azure to white-hot. Throws std::runtime_error if libpng fails.
+/// The picture as a PNG file: 8-bit indices into a palette that runs from black through azure to
+/// near white. Throws std::runtime_error if libpng fails.
 std::string encodePng(const GreyPicture& picture);
 
 } // namespace caustics

@@ -5,8 +5,8 @@
 
 namespace caustics {
 
-/// Shows how far the work has come: a bar that grows on a terminal, else a line each time
-/// another quarter is done. Steps may be counted from several threads.
+/// Shows progress: a bar on a terminal, otherwise a line for each quarter. `step` may be called
+/// from several threads.
 class Progress {
 public:
     Progress(std::FILE* outlet, int stepCount);

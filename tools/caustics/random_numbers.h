@@ -4,13 +4,13 @@
 
 namespace caustics {
 
-/// A stream of random numbers that is the same wherever the program runs (the standard library's
-/// distributions are not). A Weyl sequence, each term scrambled.
+/// The SplitMix64 generator. Its numbers are the same on every system, which the distributions of
+/// the standard library do not promise.
 class RandomNumbers {
 public:
     explicit RandomNumbers(std::uint64_t seed) : state(seed) {}
 
-    /// A number in (0, 1): never an end, so that its logarithm exists.
+    /// Uniform in (0, 1), without the ends, so that the logarithm is finite.
     double next()
     {
         state += 0x9e3779b97f4a7c15U;

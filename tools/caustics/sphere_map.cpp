@@ -9,10 +9,11 @@
 namespace caustics {
 namespace {
 
-constexpr int samplesPerTexel = 3; // along a side
-constexpr float rimShade = 0.6f;   // of the middle's brightness
+constexpr int samplesPerTexel = 3; // along a side: box-filtered supersampling
+constexpr float rimShade = 0.6f;   // times the middle's brightness
 
-/// The light at (s, t), where the disc has radius 1 round (0, 0).
+/// The light at (s, t), the disc having radius 1 about (0, 0). A point of the disc at this radius
+/// is asin(radius) from the pole, and the rim, pi / 2 from it, is half a tile away.
 float lightAt(const Tile& light, float s, float t)
 {
     const float radius = std::sqrt(s * s + t * t);
@@ -28,10 +29,10 @@ float shadeAt(float s, float t)
     return std::lerp(rimShade, 1.0f, outward);
 }
 
-/// From −1 to 1 over the picture; `place` in texels from its edge.
-float discCoordinate(float place, int side)
+/// -1 to 1 across the picture, for a position in texels from its edge.
+float discCoordinate(float position, int side)
 {
-    return 2.0f * place / static_cast<float>(side) - 1.0f;
+    return 2.0f * position / static_cast<float>(side) - 1.0f;
 }
 
 std::uint8_t levelAt(const Tile& light, int column, int row, int side)

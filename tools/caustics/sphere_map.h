@@ -7,16 +7,19 @@
 
 namespace caustics {
 
-/// A square picture of brightness levels, row by row, 0 to 255.
+/// A square picture of brightness levels from 0 to 255, row by row.
 struct GreyPicture {
     int side = 0;
     std::vector<std::uint8_t> levels;
 };
 
-/// The light, of mean 1 over the set, as a half sphere wears it that is seen from straight above:
-/// the texel in direction (s, t) of the disc shows the outward direction whose x and y are
-/// (s, t). The tile spans the half sphere from rim to rim along great circles, and darkens
-/// towards the rim. Outside the disc the rim goes on, so that no filter reaches past it.
+/// The tile `light`, whose mean over the set is 1, wrapped on a half sphere and seen from straight
+/// above, as a picture of `side` texels along a side. With s and t from -1 to 1 over the picture,
+/// the texel at (s, t) belongs to the unit normal (s, t, z), an orthographic projection: texture
+/// coordinates are made of normals in the same way. On the half sphere the tile keeps lengths along
+/// great circles through the pole (azimuthal equidistant projection) and spans it from rim to rim.
+/// It is shaded towards the rim. Outside the disc the rim's light is repeated, for filters that
+/// reach past it.
 GreyPicture wrapOnSphere(const Tile& light, int side);
 
 } // namespace caustics

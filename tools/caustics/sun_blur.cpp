@@ -10,17 +10,18 @@
 namespace caustics {
 namespace {
 
-constexpr double sunRadius = 0.2665 * std::numbers::pi / 180.0;
+constexpr double sunRadius = 0.2665 * std::numbers::pi / 180.0; // angular, in radians
 
-/// The standard deviation, in metres, of the bell that stands for the sun's image.
+/// The standard deviation, in metres, of the sun's image on the floor: half the radius of a uniform
+/// disc, after the light was refracted and has gone down the slanted path.
 double spread()
 {
     return 0.5 * waterDepth * std::tan(sunRadius) / (refractiveIndex * std::cos(refractedZenith()));
 }
 
-/// The weights of a bell of deviation `sigma` texels, from the middle outwards. All of them,
-/// with both sides counted, sum to 1.
-std::vector<float> bell(double sigma)
+/// The weights of a Gaussian with standard deviation `sigma` in texels, from the centre outwards,
+/// cut off at 4 sigma. Counted on both sides they sum to 1.
+std::vector<float> gaussian(double sigma)
 {
     const int reach = static_cast<int>(std::ceil(4.0 * sigma));
     std::vector<double> weights;
@@ -35,7 +36,8 @@ std::vector<float> bell(double sigma)
     return shares;
 }
 
-/// Blurs along the rows and turns the tile over its diagonal, so that twice does both ways.
+/// Convolves along the rows and transposes. Called twice it convolves along both axes, since a
+/// Gaussian is separable.
 Tile blurAcross(const Tile& tile, const std::vector<float>& weights)
 {
     const int side = tile.side();
@@ -59,7 +61,7 @@ Tile blurAcross(const Tile& tile, const std::vector<float>& weights)
 
 Tile spreadSunlight(const Tile& pointLight)
 {
-    const std::vector<float> weights = bell(spread() * pointLight.side() / tileSide);
+    const std::vector<float> weights = gaussian(spread() * pointLight.side() / tileSide);
     return blurAcross(blurAcross(pointLight, weights), weights);
 }
 

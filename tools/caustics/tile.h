@@ -6,15 +6,15 @@
 
 namespace caustics {
 
-/// Where a point lies between the centres of four texels: the texels, and how far it has gone
-/// from left to right and from upper to lower, in [0, 1].
+/// A point between the centres of four texels: their columns and rows, and the weights of the right
+/// and the lower ones in bilinear interpolation, in [0, 1].
 struct TileSpot {
     int left, right, upper, lower;
     float across, down;
 };
 
-/// A square of numbers, row by row, that goes on into itself over its edges. Along a side the
-/// texel centres lie at ½, 1½, 2½ … texels from the corner.
+/// A square array of numbers, row by row, that repeats periodically in x and in y. Texel centres
+/// are at ½, 1½, 2½ … texels from the corner along a side.
 class Tile {
 public:
     explicit Tile(int texelsPerSide)
@@ -41,8 +41,8 @@ public:
             value *= factor;
     }
 
-    /// Shares `amount` out among the texels round (x, y), in texels from the corner; the point
-    /// may lie anywhere on the endless plane.
+    /// Adds `amount` to the four texels around (x, y) with bilinear weights. Coordinates are in
+    /// texels from the corner, and periodic.
     void add(float x, float y, float amount)
     {
         const TileSpot spot = spotAt(x, y);
@@ -54,7 +54,7 @@ public:
         at(spot.right, spot.lower) += right * spot.down;
     }
 
-    /// The value at (x, y), in texels from the corner, anywhere on the endless plane.
+    /// The bilinear interpolation at (x, y), in texels from the corner, periodic.
     float sample(float x, float y) const
     {
         const TileSpot spot = spotAt(x, y);

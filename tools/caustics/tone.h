@@ -2,8 +2,9 @@
 
 namespace caustics {
 
-/// Light as the eye would take it in: from `light`, where 1 is the mean of the set, to a
-/// brightness in [0, 1] that rises quickly, then bends so that filaments glow and do not burn.
+/// The brightness in [0, 1] of `light`, where 1 is the mean of the set: exposure, the extended
+/// Reinhard operator, which compresses highlights and reaches full brightness at a finite light,
+/// and a contrast exponent.
 float toneOf(float light);
 
 } // namespace caustics

@@ -3,7 +3,7 @@
 namespace caustics {
 
 constexpr int frameCount = 32;            // images in the loop
-constexpr double tileSide = 1.6;          // metres; the water repeats itself in x and in y
+constexpr double tileSide = 1.6;          // metres; the period of the water in x and in y
 constexpr double waterDepth = 1.5;        // metres from the calm surface to the floor
 constexpr double refractiveIndex = 1.333; // of water against air
 

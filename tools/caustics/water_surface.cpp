@@ -13,8 +13,9 @@ namespace {
 using std::numbers::pi;
 using Complex = std::complex<double>;
 
-/// Along a row, all waves with the same number along x are one harmonic: the real part of
-/// factor · e^(i · 2π · number · x / tileSide), one factor for each quantity.
+/// Along a row, all waves with the same wave number along x add up to one harmonic, the real part
+/// of factor · e^(i · 2π · number · x / tileSide), with a factor for each quantity. Summing 13
+/// harmonics is much cheaper than 64 waves at every point.
 struct Harmonic {
     Complex height;
     Complex slopeX;
@@ -55,7 +56,7 @@ WaterSurface::WaterSurface(std::span<const Wave> someWaves, int pointsPerSide)
       points(pointsPerSide)
 {
     for (Wave& wave : waves)
-        if (wave.alongX < 0) // cos(−a) = cos(a)
+        if (wave.alongX < 0) // the same wave, since cos(−a) = cos(a)
             wave = {-wave.alongX, -wave.alongY, -wave.cycles, wave.amplitude, -wave.phase};
     for (int number = 0; number <= largestWaveNumber; ++number)
         for (int column = 0; column < points; ++column) {

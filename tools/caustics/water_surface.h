@@ -7,15 +7,15 @@
 
 namespace caustics {
 
-/// The water over one row of points: height in metres and slope along x and y.
+/// The water at one row of points: height in metres, and slopes along x and y.
 struct SurfaceRow {
     std::vector<float> height;
     std::vector<float> slopeX;
     std::vector<float> slopeY;
 };
 
-/// The moving surface on a square grid of points, spread evenly over the tile. Reading is safe
-/// from several threads.
+/// The moving water surface, a sum of waves, on a square grid of points evenly spaced over the
+/// tile. `readRow` may be called from several threads.
 class WaterSurface {
 public:
     /// No wave has a wave number above `largestWaveNumber`.
@@ -27,7 +27,7 @@ public:
     void readRow(int frame, int row, SurfaceRow& out) const;
 
 private:
-    std::vector<Wave> waves; // turned so that none runs towards −x
+    std::vector<Wave> waves; // alongX is never negative
     int points;
     std::vector<float> cosines; // [wave number along x][column]
     std::vector<float> sines;

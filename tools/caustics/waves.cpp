@@ -16,17 +16,18 @@ constexpr double smallestWaveNumber = 1.5;
 constexpr double peakWaveNumber = 3.0;
 constexpr double windAzimuth = 35.0 * pi / 180.0;
 constexpr double loopSeconds = 64.0 / 60.0;
-constexpr double slowMotion = 0.45; // of the true speed: the loop is short, and calm is the mood
+constexpr double slowMotion = 0.45; // times the true speed: the loop is short and should look calm
 constexpr int mostCycles = 4;       // faster waves would jump from frame to frame
 constexpr std::size_t keptWaves = 64;
-constexpr double focus = 0.5; // 1: the mean curvature of the water has its focus on the floor
+constexpr double focus = 0.5; // of what would focus the light exactly on the floor, see below
 
 double waveNumber(const Wave& wave)
 {
     return std::hypot(wave.alongX, wave.alongY);
 }
 
-/// Gravity waves with the surface tension that rules the short ones.
+/// From the dispersion relation of capillary-gravity waves in deep water,
+/// omega² = g k + (surface tension / density) k³, to whole cycles per loop.
 int cyclesOf(double number)
 {
     const double k = 2.0 * pi * number / tileSide; // radians per metre
@@ -35,7 +36,8 @@ int cyclesOf(double number)
     return std::clamp(static_cast<int>(cycles), 1, mostCycles);
 }
 
-/// The mean square of the height that such waves have, to a common factor.
+/// The variance of such a wave's height, up to a common factor: a power law with a peak, larger
+/// along the wind than across it or against it.
 double variance(const Wave& wave)
 {
     const double ratio = waveNumber(wave) / peakWaveNumber;
@@ -61,6 +63,7 @@ std::vector<Wave> allWaves(std::uint64_t seed)
             if (number < smallestWaveNumber || number > largestWaveNumber)
                 continue;
             wave.cycles = cyclesOf(number);
+            // Rayleigh-distributed, as the amplitudes of a Gaussian sea are.
             wave.amplitude = std::sqrt(-2.0 * variance(wave) * std::log(random.next()));
             wave.phase = 2.0 * pi * random.next();
             waves.push_back(wave);
@@ -68,8 +71,8 @@ std::vector<Wave> allWaves(std::uint64_t seed)
     return waves;
 }
 
-/// Scales the waves to the curvature whose lenses, each 1/(curvature · (1 − 1/index)) from its
-/// image, gather the light `focus` times as strongly as the depth asks for.
+/// Scales the waves by their root mean square curvature. A surface of curvature c focuses light at
+/// the depth 1 / (c · (1 − 1/index)); `focus` 1 would put the mean curvature's focus on the floor.
 void bringToFocus(std::vector<Wave>& waves)
 {
     double meanSquare = 0.0;
