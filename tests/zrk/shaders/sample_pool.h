@@ -30,6 +30,17 @@ inline std::string textOf(const zrk::ShaderLayer& layer)
     return text.cString();
 }
 
+/// The shader's block, which loads as the same shader; behind its name a letter for each flag.
+inline std::string textOf(const zrk::Shader& shader)
+{
+    std::string text = shader.name.cString();
+    text += std::string(" ") + (shader.hasBlend ? "b" : "") + (shader.hasTexture ? "t" : "") +
+            (shader.hasColor ? "c" : "") + "\n{";
+    for (const zrk::ShaderLayer* layer : shader.layers())
+        text += " " + textOf(*layer) + "\n";
+    return text + "}\n";
+}
+
 /// A shaders pool loaded from a text as a file of this name, and the shaders that it owns.
 struct LoadedPool {
     zrk::ShaderPool pool;
@@ -43,18 +54,12 @@ struct LoadedPool {
         log = output([&](std::FILE* stream) { result = pool.load(name, stream); });
     }
 
-    /// Every shader as a line: its name, a letter for each flag (b, t, c), and its layers, each
-    /// ended by a semicolon.
+    /// Every shader as it stands in a file.
     std::string summary() const
     {
         std::string text;
-        for (std::uint32_t i = 0; i < pool.count; ++i) {
-            text += std::string(pool[i].name.cString()) + "[" + (pool[i].hasBlend ? "b" : "") +
-                    (pool[i].hasTexture ? "t" : "") + (pool[i].hasColor ? "c" : "") + "]";
-            for (const zrk::ShaderLayer* layer : pool[i].layers())
-                text += " " + textOf(*layer) + ";";
-            text += "\n";
-        }
+        for (std::uint32_t i = 0; i < pool.count; ++i)
+            text += textOf(pool[i]);
         return text;
     }
 };

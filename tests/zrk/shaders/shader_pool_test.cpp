@@ -28,9 +28,9 @@ TEST(ShaderPool, GivesEveryFileItsResultItsMessagesAndItsShaders)
         const char* name = "pool";
     } cases[] = {
         {"\n 12, {34} ;-)\n", ok, "ok, 0 texture loaded", ""},
-        {"word\n", missingOpeningBrace, "error: missing '{'", "word[]\n"},
-        {R"(# 3:
-water the deep one
+        {"word\n", missingOpeningBrace, "error: missing '{'", "word \n{}\n"},
+        {R"(# 4 @[`{
+Zone	two one
 (shown first)
 { texture: 2, nearest, linear, clamp, repeat, decal, <1, 0, 0, 1>
 
@@ -40,32 +40,40 @@ water the deep one
 empty
 {
 }
- 2.	glass{}: {
-{
+Amber{}: {
+color: 0 0 0 0
+}
+ 2.	{
 multitexture 1 0 linear linear repeat clamp_to_edge blend .5 .5 .5 1e0
 	texture: 0
-color: 1 .5 x <1> }
+color: 1,.5>x<1> }
 multitexture: 0
+}
+z
+{
+blend,one,one
 })",
-         ok, "warning: empty shader\nok, 3 textures loaded",
-         "water[bt] texture: 2, nearest, linear, clamp, repeat, decal, <1.0000, 0.0000, 0.0000, "
-         "1.0000>; blend: src_alpha, one_minus_src_alpha;\nempty[]\n"
-         "glass{}:[tc] multitexture: 1, 0, linear, linear, repeat, clamp_to_edge, blend, <0.5000, "
-         "0.5000, 0.5000, 1.0000>; color: <1.000000, 0.500000, 0.000000, 1.000000>; "
-         "multitexture: 0, ;\n"},
-        {"word\n", cannotCloseFile, "error: missing '{'\nerror: cannot close file", "word[]\n",
+         ok, "warning: empty shader\nok, 4 textures loaded",
+         "Zone\ttwo bt\n{ texture: 2, nearest, linear, clamp, repeat, decal, <1.0000, 0.0000, "
+         "0.0000, "
+         "1.0000>\n blend: src_alpha, one_minus_src_alpha\n}\nempty \n{}\n"
+         "Amber{}: tc\n{ multitexture: 1, 0, linear, linear, repeat, clamp_to_edge, blend, "
+         "<0.5000, "
+         "0.5000, 0.5000, 1.0000>\n color: <1.000000, 0.500000, 0.000000, 1.000000>\n"
+         " multitexture: 0, \n}\nz b\n{ blend: one, one\n}\n"},
+        {"word\n", cannotCloseFile, "error: missing '{'\nerror: cannot close file", "word \n{}\n",
          "unclosable"},
-        {"a\n{\n", readError, "error: read error", "a[]\n", "unreadable"},
-        {"a", readError, "warning: nothing to load\nerror: read error", "[]\n", "unreadable"},
-        {"a}b\n{\n", ok, "ok, 1 texture loaded", "a}b[]\n"},
+        {"a\n{\n", readError, "error: read error", "a \n{}\n", "unreadable"},
+        {"a", readError, "warning: nothing to load\nerror: read error", " \n{}\n", "unreadable"},
+        {"a}b\n{\n", ok, "ok, 1 texture loaded", "a}b \n{}\n"},
         {"a}b\n{  \nblend: one, one\n ,\n", missingClosingBrace, "error: missing '}'",
-         "a}b[b] blend: one, one;\n"},
+         "a}b b\n{ blend: one, one\n}\n"},
         {"a\n{\ncolor: 1e999 -1e39 nan 0x.8p1\ntexture: 99999999999 linear linear repeat repeat "
          "decal 1 2 3 4\n}\n",
          ok, "ok, 1 texture loaded",
-         "a[tc] color: <" + most + ", -" + most +
-             ", 0.000000, 1.000000>; texture: 2147483647, linear, linear, repeat, repeat, decal, "
-             "<1.0000, 2.0000, 3.0000, 4.0000>;\n"},
+         "a tc\n{ color: <" + most + ", -" + most +
+             ", 0.000000, 1.000000>\n texture: 2147483647, linear, linear, repeat, repeat, decal, "
+             "<1.0000, 2.0000, 3.0000, 4.0000>\n}\n"},
     };
     for (const auto& [text, result, log, shaders, name] : cases) {
         const LoadedPool loaded(text, name);
@@ -83,6 +91,7 @@ TEST(ShaderPool, StopsAtALineThatIsNoLayer)
     const std::string texture = ", linear, linear, repeat, repeat, decal";
     const std::pair<std::string, ShaderResult> cases[] = {
         {"texture : 0" + texture + ", <0, 0, 0, 0>", unknownParameter},
+        {"multitexture: 4", wrongParameterCount},
         {"multitexture: 5", unknownParameter},
         {"multitexture: -1", unknownParameter},
         {"texture: 0" + texture, wrongParameterCount},
@@ -99,37 +108,40 @@ TEST(ShaderPool, StopsAtALineThatIsNoLayer)
         const std::string message =
             result == unknownParameter ? "unknown parameter" : "incorrect number of parameters";
         EXPECT_EQ(loaded.log, "Loading pool... error: " + message + "\n");
-        EXPECT_EQ(loaded.summary(), "sample[b] blend: one, zero;\n");
+        EXPECT_EQ(loaded.summary(), "sample b\n{ blend: one, zero\n}\n");
     }
     EXPECT_EQ(poolOf("blend:" + std::string(16369, ' ') + "one, one").result, ok);
 }
 
 TEST(ShaderPool, SurvivesAFileThatEndsAnywhereAndRubbish)
 {
-    const std::string text = block + "#" + block, whole = LoadedPool(text).summary();
+    const std::string whole = LoadedPool(block + "#" + block).summary();
     std::minstd_rand random; // the same rubbish every time
-    for (std::size_t length = 0; length < text.size(); ++length) {
-        const LoadedPool cut(text.substr(0, length));
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        const LoadedPool cut(whole.substr(0, length));
         std::string sound = cut.summary(); // all but a shader that failed, which comes last
         if (isError(cut.result))
-            sound.erase(sound.rfind('\n', sound.size() - 2) + 1);
+            sound.erase(sound.rfind("\n{"));
+        sound.erase(sound.rfind('\n') + 1);
         EXPECT_TRUE(whole.starts_with(sound)) << length;
-        std::string rubbish = text;
+        std::string rubbish = whole;
         for (std::size_t i = 0; i < length; ++i)
-            rubbish[random() % text.size()] = static_cast<char>(random());
-        const LoadedPool loaded(rubbish);
-        EXPECT_EQ(loaded.log.find("error: ") != std::string::npos, isError(loaded.result));
+            rubbish[random() % whole.size()] = static_cast<char>(random());
+        const std::string rest = LoadedPool(rubbish).summary();
+        EXPECT_EQ(LoadedPool(rest).summary(), rest);
     }
 }
 
 TEST(ShaderPool, HoldsTenThousandShadersAndLayers)
 {
-    std::string thin, thick = "thick\n{\n";
+    std::string thin, thick = "thick c\n{";
     for (int i = 0; i < 10000; ++i) {
-        thin += "thin\n{\ncolor: 1 1 1 1\n}\n";
-        thick += "color: 1 1 1 " + std::to_string(i) + "\n";
+        const std::string layer =
+            " color: <0.000000, 0.000000, 0.000000, " + std::to_string(i) + ".000000>\n";
+        thin += "thin c\n{" + layer + "}\n";
+        thick += layer;
     }
     const LoadedPool loaded(thin + thick + "}\n");
     EXPECT_EQ(loaded.log, "Loading pool... ok, 10001 textures loaded\n");
-    EXPECT_TRUE(loaded.summary().ends_with(" 9999.000000>;\n"));
+    EXPECT_TRUE(loaded.summary() == thin + thick + "}\n");
 }
