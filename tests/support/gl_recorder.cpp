@@ -2,6 +2,8 @@
 
 #include "tests/support/call_text.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <initializer_list>
 #include <map>
@@ -12,6 +14,7 @@ namespace {
 struct Recorder {
     std::vector<std::string> calls;
     std::map<GLenum, GLint> integers;
+    std::array<GLfloat, 4> envColor{};
     std::string extensions;
     GLenum nextError = GL_NO_ERROR;
     GLuint lastTextureName = 0;
@@ -76,6 +79,21 @@ void record(const char* function, const Parameters&... parameters)
     recorder.calls.push_back(callText(function, parameters...));
 }
 
+/// Keeps a value that OpenGL is given, to answer it when asked.
+template <typename Value>
+Value kept(GLenum name, Value value)
+{
+    recorder.integers[name] = static_cast<GLint>(value);
+    return value;
+}
+
+GLenum answered(GLenum name, GLint* value)
+{
+    if (const auto found = recorder.integers.find(name); found != recorder.integers.end())
+        *value = found->second;
+    return name;
+}
+
 std::string pixelsOrNull(const void* pixels)
 {
     return pixels == nullptr ? "null" : "pixels";
@@ -138,7 +156,8 @@ extern "C" {
 
 RECORDED(glEnable, (GLenum capability), nameOf(capability))
 RECORDED(glDisable, (GLenum capability), nameOf(capability))
-RECORDED(glBlendFunc, (GLenum source, GLenum target), nameOf(source), nameOf(target))
+RECORDED(glBlendFunc, (GLenum source, GLenum target), nameOf(kept(GL_BLEND_SRC, source)),
+         nameOf(kept(GL_BLEND_DST, target)))
 RECORDED(glClear, (GLbitfield mask), mask)
 RECORDED(glPushAttrib, (GLbitfield mask), hexadecimal(mask, 8))
 RECORDED(glPopAttrib, ())
@@ -159,14 +178,18 @@ RECORDED(glTexCoord2f, (GLfloat s, GLfloat t), s, t)
 RECORDED(glDeleteTextures, (GLsizei count, const GLuint* names), count, *names)
 RECORDED(glBindTexture, (GLenum target, GLuint name), nameOf(target), name)
 RECORDED(glTexParameteri, (GLenum target, GLenum name, GLint value), nameOf(target), nameOf(name),
-         nameOf(value))
+         nameOf(kept(name, value)))
 RECORDED(glTexEnvi, (GLenum target, GLenum name, GLint value), nameOf(target), nameOf(name),
-         nameOf(value))
+         nameOf(kept(name, value)))
 RECORDED(glTexEnvfv, (GLenum target, GLenum name, const GLfloat* values), nameOf(target),
-         nameOf(name), listOf(values, 4))
-RECORDED(glGetTexParameteriv, (GLenum target, GLenum name, GLint*), nameOf(target), nameOf(name))
-RECORDED(glGetTexEnviv, (GLenum target, GLenum name, GLint*), nameOf(target), nameOf(name))
-RECORDED(glGetTexEnvfv, (GLenum target, GLenum name, GLfloat*), nameOf(target), nameOf(name))
+         nameOf(name), listOf(std::copy_n(values, 4, recorder.envColor.begin()) - 4, 4))
+RECORDED(glGetIntegerv, (GLenum name, GLint* value), nameOf(answered(name, value)))
+RECORDED(glGetTexParameteriv, (GLenum target, GLenum name, GLint* value), nameOf(target),
+         nameOf(answered(name, value)))
+RECORDED(glGetTexEnviv, (GLenum target, GLenum name, GLint* value), nameOf(target),
+         nameOf(answered(name, value)))
+RECORDED(glGetTexEnvfv, (GLenum target, GLenum name, GLfloat* values), nameOf(target),
+         (std::ranges::copy(recorder.envColor, values), nameOf(name)))
 
 RECORDED(glTexImage2D,
          (GLenum target, GLint level, GLint internalFormat, GLsizei width, GLsizei height,
@@ -187,13 +210,6 @@ void glGenTextures(GLsizei count, GLuint* names)
     record("glGenTextures", count);
     for (GLsizei i = 0; i < count; ++i)
         names[i] = ++recorder.lastTextureName;
-}
-
-void glGetIntegerv(GLenum name, GLint* value)
-{
-    record("glGetIntegerv", nameOf(name));
-    if (const auto found = recorder.integers.find(name); found != recorder.integers.end())
-        *value = found->second;
 }
 
 const GLubyte* glGetString(GLenum name)

@@ -23,7 +23,7 @@ void note(const std::string& line);
 /// The next `glGetError` answers `code`, those after it GL_NO_ERROR.
 void setNextError(GLenum code);
 
-/// What glGetIntegerv answers; it leaves alone what it has no answer to.
+/// What queries of `name` answer, until the program sets it; without an answer they change nothing.
 void answer(GLenum name, GLint value);
 
 /// What glGetString(GL_EXTENSIONS) answers; "" after `reset`.

@@ -6,20 +6,31 @@
 
 TEST(Renderer, FadesTheWholeViewAndLeavesDepthTestingOn)
 {
-    gl_recorder::reset();
-    zrk::renderer.fadeScreen(0.25f, GL_COLOR_BUFFER_BIT);
-    std::string calls;
-    for (const std::string& call : gl_recorder::takeCalls())
-        calls += call + "; ";
-    EXPECT_EQ(calls,
-              "glClear(16384); glPushAttrib(0x00040040); glDisable(GL_DEPTH_TEST); "
-              "glDisable(GL_LIGHTING); glDisable(GL_TEXTURE_2D); "
-              "glMatrixMode(GL_MODELVIEW); glPushMatrix(); glLoadIdentity(); "
-              "glMatrixMode(GL_PROJECTION); glPushMatrix(); glLoadIdentity(); "
-              "glColor4f(0, 0, 0, 0.25); glBegin(GL_QUADS); glVertex2i(-1, -1); "
-              "glVertex2i(1, -1); glVertex2i(1, 1); glVertex2i(-1, 1); glEnd(); glPopMatrix(); "
-              "glMatrixMode(GL_MODELVIEW); glPopMatrix(); glEnable(GL_DEPTH_TEST); "
-              "glPopAttrib(); ");
+    zrk::Renderer renderer;
+    renderer.glActiveTextureARB = gl_recorder::activeTexture;
+    for (const bool severalUnits : {false, true}) {
+        gl_recorder::reset();
+        renderer.severalUnitsUsed = severalUnits;
+        renderer.fadeScreen(0.25f, GL_COLOR_BUFFER_BIT);
+        std::string calls;
+        for (const std::string& call : gl_recorder::takeCalls())
+            calls += call + "; ";
+        const std::string untextured =
+            severalUnits ? "glActiveTextureARB(GL_TEXTURE1_ARB); glDisable(GL_TEXTURE_2D); "
+                           "glActiveTextureARB(GL_TEXTURE0_ARB); glDisable(GL_TEXTURE_2D); "
+                         : "glDisable(GL_TEXTURE_2D); ";
+        EXPECT_EQ(
+            calls,
+            "glClear(16384); glPushAttrib(0x00040040); glDisable(GL_DEPTH_TEST); "
+            "glDisable(GL_LIGHTING); " +
+                untextured +
+                "glMatrixMode(GL_MODELVIEW); glPushMatrix(); glLoadIdentity(); "
+                "glMatrixMode(GL_PROJECTION); glPushMatrix(); glLoadIdentity(); "
+                "glColor4f(0, 0, 0, 0.25); glBegin(GL_QUADS); glVertex2i(-1, -1); "
+                "glVertex2i(1, -1); glVertex2i(1, 1); glVertex2i(-1, 1); glEnd(); glPopMatrix(); "
+                "glMatrixMode(GL_MODELVIEW); glPopMatrix(); glEnable(GL_DEPTH_TEST); "
+                "glPopAttrib(); ");
+    }
 }
 
 TEST(Renderer, NamesOpenGlErrors)

@@ -3,14 +3,21 @@
 #include "tests/support/gl_recorder.h"
 #include "tests/zrk/shaders/sample_pool.h"
 #include "zrk/renderer.h"
+#include "zrk/shaders/blend_layer.h"
+#include "zrk/shaders/color_layer.h"
+#include "zrk/shaders/layer_registry.h"
+#include "zrk/shaders/multitexture_layer.h"
+#include "zrk/shaders/texture_layer.h"
 #include "zrk/shaders/texture_units.h"
 #include "zrk/textures/texture_pool.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <memory>
 #include <string_view>
 #include <tuple>
+#include <utility>
 
 using namespace zrk;
 
@@ -47,7 +54,7 @@ struct MixedPool : LoadedPool {
     explicit MixedPool(std::uint32_t units)
         : LoadedPool("lit\n{\ntexture: 1 nearest linear clamp repeat decal 1 0 0 1\n"
                      "blend: one, zero\n}\n"
-                     "layered\n{\nmultitexture: 2 9 linear nearest repeat clamp modulate 0 0 0 0 "
+                     "layered\n{\nmultitexture: 2 2 linear nearest repeat clamp modulate 0 0 0 0 "
                      "1 nearest nearest clamp clamp blend 0 1 0 0\n}\n"
                      "tinted\n{\ncolor: 1 0.5 0 1\n}\n"
                      "deep\n{\nmultitexture: 3 -1 linear nearest repeat clamp modulate 0 0 0 0 "
@@ -99,6 +106,7 @@ void expectFrames(std::uint32_t units, const std::array<std::string, 3> (&expect
 
 TEST(Shader, MakesTheCallsThatAMixedPoolNeedsAndSaysOnceWhatIsLeftOut)
 {
+    glCaches = {};
     testing::internal::CaptureStderr();
     const std::string factors = "; glBlendFunc(GL_ONE, GL_ZERO)", opaque = "disable BLEND";
     const std::string tint = "; glColor4fv(1, 0.5, 0, 1)", white = "; glColor4fv(1, 1, 1, 1)";
@@ -124,6 +132,71 @@ TEST(Shader, MakesTheCallsThatAMixedPoolNeedsAndSaysOnceWhatIsLeftOut)
               "quazo: too few texture units: only the first of several textures is shown\n");
 }
 
+TEST(Shader, StartsAsOpenGlDoesSharesItsLayersAndIsFollowedByWhite)
+{
+    const std::string zeros = "<0.000000, 0.000000, 0.000000, 0.000000>\n";
+    const std::string state =
+        "0, nearest_mipmap_linear, linear, repeat, repeat, modulate, " + zeros;
+    Shader mixed, copy, plain;
+    mixed.addLayer(std::make_unique<MultitextureLayer>(1));
+    EXPECT_FALSE(mixed.hasTexture); // the parser sets it
+    mixed.addLayer(std::make_unique<TextureLayer>());
+    plain.addLayer(std::make_unique<BlendLayer>());
+    mixed.addLayer(std::make_unique<BlendLayer>());
+    mixed.addLayer(std::make_unique<ColorLayer>());
+    mixed.name = "mixed";
+    copy = mixed;
+    copy = std::as_const(copy);
+    mixed.addLayer(std::make_unique<BlendLayer>());
+    EXPECT_TRUE(textOf(copy).starts_with("mixed btc\n{ multitexture: 1, 0,"));
+    EXPECT_TRUE(textOf(mixed).starts_with(textOf(copy).substr(0, textOf(copy).size() - 2)));
+    gl_recorder::reset();
+    gl_recorder::answer(GL_BLEND_SRC, GL_DST_COLOR);
+    gl_recorder::answer(GL_BLEND_DST, GL_SRC_COLOR);
+    copy.layers()[2]->readBack();
+    std::string lines;
+    for (const ShaderLayer* layer : mixed.layers())
+        lines += output([&](std::FILE* out) { layer->write(out); }) + "\n";
+    EXPECT_EQ(lines, "  multitexture: 1, " + state + "  texture: " + state +
+                         "  blend: dst_color, src_color\n  color: " + zeros +
+                         "  blend: one, zero\n");
+    copy.apply();
+    calls();
+    plain.apply();
+    EXPECT_EQ(calls(), "enable BLEND; glColor4fv(1, 1, 1, 1); disable TEXTURE_2D; "
+                       "glBlendFunc(GL_ONE, GL_ZERO)");
+}
+
+TEST(MultitextureLayer, CopiesItsStagesButNotItsIndex)
+{
+    MultitextureLayer source(2), assigned(3);
+    source.index = 7;
+    source.prepared = true;
+    source.stages[1] = {.index = 5, .state = {.glName = 9}};
+    source.assign(source);
+    assigned.assign(source);
+    MultitextureLayer copied(source);
+    for (const MultitextureLayer* layer : {&assigned, &copied}) {
+        EXPECT_EQ(textOf(*layer), textOf(source));
+        EXPECT_TRUE(layer->prepared && layer->stages[1].state.glName == 9 && layer->index == 0);
+    }
+}
+
+TEST(LayerRegistry, DeletesItsLayersInTheOrderOfAdding)
+{
+    static std::string deleted;
+    struct NumberedLayer : BlendLayer {
+        explicit NumberedLayer(std::int32_t number) { index = number; }
+        ~NumberedLayer() override { deleted += std::to_string(index); }
+    };
+    auto registry = std::make_unique<LayerRegistry>();
+    for (const std::int32_t number : {1, 2, 3})
+        registry->add(std::make_unique<NumberedLayer>(number));
+    EXPECT_EQ(registry->count(), 3u);
+    registry.reset();
+    EXPECT_EQ(deleted, "123");
+}
+
 TEST(ShaderLayer, ReappliesAndReadsBackPastTheCachesAndPrintsWhatHasAWord)
 {
     const MixedPool mixed(2);
@@ -133,6 +206,7 @@ TEST(ShaderLayer, ReappliesAndReadsBackPastTheCachesAndPrintsWhatHasAWord)
         {1, &ShaderLayer::reapply,
          "unit 1; enable TEXTURE_2D; unit 0; enable TEXTURE_2D; unit 0; " + sendFirst +
              "; unit 1; " + sendSecond},
+        {0, &ShaderLayer::readBack, "unit 0"},
         {0, &ShaderLayer::apply, first + sendLit},
         {1, &ShaderLayer::apply, "unit 1; enable TEXTURE_2D; unit 1; bind 11; unit 0; bind 10"},
         {0, &ShaderLayer::reapply, first + sendLit},
@@ -142,11 +216,11 @@ TEST(ShaderLayer, ReappliesAndReadsBackPastTheCachesAndPrintsWhatHasAWord)
         {0, &ShaderLayer::readBack, "bind 11" + get},
     };
     for (const auto& [shader, step, expected] : steps) {
+        gl_recorder::reset(); // what is read back is 0, which has no word
         (mixed.pool[shader].layers().front()->*step)();
         EXPECT_EQ(calls(), expected);
     }
-    // It was read back from an OpenGL that answered 0, which has no word.
-    EXPECT_EQ(output([&](std::FILE* out) { mixed.pool[1].layers().front()->write(out); }),
-              "  multitexture: 2, 9, <0.000000, 0.000000, 0.000000, 0.000000>, 1, <0.000000, "
-              "1.000000, 0.000000, 0.000000>");
+    EXPECT_EQ(textOf(*mixed.pool[1].layers().front()),
+              "multitexture: 2, 2, <0.0000, 0.0000, 0.0000, 0.0000>, 1, <0.0000, 0.0000, 0.0000, "
+              "0.0000>");
 }
