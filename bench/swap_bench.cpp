@@ -1,16 +1,13 @@
 // What the kept picture costs a frame: the saver's own frames at 1024 x 768, drawn on the window's
 // back buffer and on ours, without and with the copy to the window, and that copy by itself.
 
-#define GL_GLEXT_PROTOTYPES
-
 #include "app/gl_window.h"
 #include "app/scene.h"
 #include "app/shell_state.h"
-#include "platform/x11/back_buffer.h"
+#include "platform/back_buffer.h"
 #include "tests/support/virtual_display.h"
 
 #include <benchmark/benchmark.h>
-#include <GL/glext.h>
 #include <GL/glx.h>
 
 #include <cstdlib>
@@ -21,7 +18,7 @@ constexpr platform::desktop::Size size{1024, 768};
 constexpr GLuint windowsOwn = 0;
 constexpr int framesPerRun = 128; // two rounds of the caustics
 
-constinit platform::x11::BackBuffer picture;
+constinit platform::BackBuffer picture;
 constinit GLuint drawTarget = windowsOwn; // the picture's, once it is made
 
 /// Draws the same frames whatever ran before; `show` brings each one to the screen. The port's

@@ -2,7 +2,6 @@
 
 #include "platform/x11/desktop_area.h"
 
-#include <ctime>
 #include <memory>
 #include <span>
 
@@ -76,15 +75,6 @@ Nanoseconds framePeriod(Display* display)
         if (mode.id == current)
             return framePeriod(mode);
     return usualPeriod;
-}
-
-void FramePace::awaitNextFrame()
-{
-    timespec time{};
-    clock_gettime(CLOCK_MONOTONIC, &time);
-    due = nextDueTime(due, time.tv_sec * second + time.tv_nsec, period);
-    time = {due / second, due % second};
-    clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &time, nullptr);
 }
 
 } // namespace platform::x11

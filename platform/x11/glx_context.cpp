@@ -1,6 +1,7 @@
 #include "platform/x11/glx_context.h"
 
-#include "platform/x11/back_buffer.h"
+#include "platform/back_buffer.h"
+#include "platform/frame_clock.h"
 #include "platform/x11/display.h"
 #include "platform/x11/frame_pace.h"
 #include "platform/x11/window.h"
@@ -25,7 +26,7 @@ struct Context {
 
 constinit std::vector<std::unique_ptr<Context>> contexts;
 constinit Context* current = nullptr;
-constinit FramePace pace;
+constinit FrameClock frameClock;
 
 // A window is made for one format and knows no other.
 constexpr int onlyFormat = 1;
@@ -74,7 +75,7 @@ void prepareSwaps(Display* display, ::Window window)
     // Where the driver holds swaps back as well, our clock runs a little fast: were it the slower
     // of the two, every now and then a frame would miss its refresh.
     const Nanoseconds lead = holdSwapsBack(display, window) ? period / 1000 : 0;
-    pace.setPeriod(period - lead);
+    frameClock.setPeriod(period - lead);
 }
 
 // The picture of a context that was never current before, or else one that fits the window.
@@ -197,7 +198,7 @@ bool swapBuffers(NativeWindow window)
         current->picture.present();
         glFlush(); // the driver can draw while we wait
     }
-    pace.awaitNextFrame();
+    frameClock.awaitNextFrame();
     glXSwapBuffers(openConnection(), window);
     return true;
 }

@@ -1,14 +1,13 @@
 #pragma once
 
 #include "platform/desktop.h"
+#include "platform/gl_entry_points.h"
 
-#include <GL/gl.h>
+namespace platform {
 
-namespace platform::x11 {
-
-/// What the program draws on in place of a window's own back buffer, whose picture GLX does not
-/// keep over a swap and whose 8 bits never fade to black. It has 16 bits a channel where the driver
-/// can draw on that, no depth, and an alpha that reads 1. It belongs to the context that was
+/// What the program draws on in place of a window's own back buffer, whose picture a
+/// swap need not keep and whose 8 bits never fade to black. It has 16 bits a channel where the
+/// driver can draw on that, no depth, and an alpha that reads 1. It belongs to the context that was
 /// current when it was made, goes with it, and may be used only while that one is current.
 ///
 /// Every call leaves the program's OpenGL state as it was and no error of its own behind.
@@ -35,4 +34,4 @@ private:
     desktop::Size extent;
 };
 
-} // namespace platform::x11
+} // namespace platform

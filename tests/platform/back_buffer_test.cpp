@@ -1,10 +1,6 @@
-#define GL_GLEXT_PROTOTYPES
-
 #include "tests/platform/x11/desktop_fixture.h"
 
-#include "platform/x11/back_buffer.h"
-
-#include <GL/glext.h>
+#include "platform/back_buffer.h"
 
 #include <array>
 #include <cmath>
@@ -131,7 +127,7 @@ TEST_F(BackBuffer, KeepsThePictureOverAChangeOfSizeAsFarAsItFits)
 TEST_F(BackBuffer, ReadsAnAlphaOf1InAFormatWithAlphaToo)
 {
     for (const GLenum format : std::initializer_list<GLenum>{GL_RGBA16, GL_RGBA8}) {
-        platform::x11::BackBuffer picture;
+        platform::BackBuffer picture;
         ASSERT_TRUE(picture.create({100, 100}, format));
         fill(0.0f, 0.0f, 1.0f);
         picture.present();

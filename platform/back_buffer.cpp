@@ -1,19 +1,15 @@
-#define GL_GLEXT_PROTOTYPES
-
-#include "platform/x11/back_buffer.h"
-
-#include <GL/glext.h>
+#include "platform/back_buffer.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <cstring>
 
-namespace platform::x11 {
+namespace platform {
 
 namespace {
 
-constexpr GLuint windowsOwn = 0; // the framebuffer that GLX made with the window
+constexpr GLuint windowsOwn = 0; // the framebuffer that came with the window
 
 // Puts the program's bindings back. In between there is no scissor test, which would cut copies.
 class BindingScope {
@@ -169,4 +165,4 @@ void BackBuffer::present() const
     copy(copySource, windowsOwn, extent);
 }
 
-} // namespace platform::x11
+} // namespace platform

@@ -1,0 +1,17 @@
+#include "platform/frame_clock.h"
+
+#include <ctime>
+
+namespace platform {
+
+void FrameClock::awaitNextFrame()
+{
+    constexpr Nanoseconds second = 1'000'000'000;
+    timespec time{};
+    clock_gettime(CLOCK_MONOTONIC, &time);
+    due = nextDueTime(due, time.tv_sec * second + time.tv_nsec, period);
+    time = {due / second, due % second};
+    clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &time, nullptr);
+}
+
+} // namespace platform
