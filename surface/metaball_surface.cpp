@@ -2,7 +2,6 @@
 
 #include "surface/frustum.h"
 #include "surface/metaball_field.h"
-#include "surface/nearby_balls.h"
 #include "surface/view_frustum.h"
 #include "zrk/allocation.h"
 #include "zrk/shaders/shader.h"
@@ -39,6 +38,13 @@ Vec3 MetaballSurface::surfaceTexCoord(const Vec3& p, float valueAtP) const
     return ::surfaceTexCoord(allBalls(), p, valueAtP);
 }
 
+void MetaballSurface::interpolateEdge(const Vec3& pa, const Vec3& pb, float va, float vb,
+                                      Vec3& outVertex, float& outValue) const
+{
+    outVertex = crossingBetween(pa, pb, va, vb, threshold);
+    outValue = fieldAt(outVertex);
+}
+
 void MetaballSurface::polygonizeAndDraw()
 {
     const std::uint8_t visibility = viewFrustum.classifyBox(region, 0);
@@ -59,8 +65,19 @@ void MetaballSurface::polygonizeAndDraw()
 
     shader->apply();
     syncBounds();
-    nearbyBalls.begin(allBalls(), region, octree.maxDepth);
+    polygonizer.begin(allBalls(), region, octree.maxDepth, threshold);
     subdivide(*octree.root, values, 0, caseIndexOf(values, threshold), visibility);
+}
+
+void MetaballSurface::subdivide(OctreeNode& node, const CornerValues& values, std::uint32_t depth,
+                                std::uint8_t caseIndex, std::uint8_t visibility)
+{
+    polygonizer.subdivide(node, values, depth, caseIndex, visibility);
+}
+
+void MetaballSurface::polygonizeLeaf(const CornerSamples& samples, std::uint8_t caseIndex)
+{
+    polygonizer.polygonizeLeaf(samples, caseIndex);
 }
 
 void MetaballSurface::syncBounds()

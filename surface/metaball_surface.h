@@ -5,6 +5,7 @@
 #include "surface/drawable.h"
 #include "surface/metaball.h"
 #include "surface/octree.h"
+#include "surface/polygonizer.h"
 
 #include <cstdint>
 #include <memory>
@@ -54,6 +55,14 @@ public:
     /// makes no call of OpenGL.
     void polygonizeAndDraw();
 
+    /// Visits the cell of `node` and what lies below it, see `Polygonizer::subdivide`. For
+    /// `polygonizeAndDraw`, which begins the frame.
+    void subdivide(OctreeNode& node, const CornerValues& values, std::uint32_t depth,
+                   std::uint8_t caseIndex, std::uint8_t visibility);
+
+    /// Draws the triangles of one leaf cell of the frame begun last, if it has any.
+    void polygonizeLeaf(const CornerSamples& samples, std::uint8_t caseIndex);
+
     bool query(std::int32_t argument) override;
 
     /// The same as `polygonizeAndDraw`.
@@ -64,16 +73,9 @@ public:
     void rebuild() override;
 
 private:
+    Polygonizer polygonizer;
+
     std::span<const Metaball> allBalls() const { return {balls.get(), ballCount}; }
-
-    /// Visits the cell of `node`, `depth` halvings below the region: a leaf is drawn, any other
-    /// cell visits its octants. `values` lie at the cell's corners and `caseIndex` is theirs;
-    /// `visibility` is what the frustum test said of the cell.
-    void subdivide(OctreeNode& node, const CornerValues& values, std::uint32_t depth,
-                   std::uint8_t caseIndex, std::uint8_t visibility);
-
-    /// Draws the triangles of a leaf cell, if it has any.
-    void polygonizeLeaf(const CornerSamples& samples, std::uint8_t caseIndex) const;
 };
 
 /// The one surface of the program.

@@ -9,8 +9,6 @@
 #include <cmath>
 #include <limits>
 
-constinit NearbyBalls nearbyBalls;
-
 namespace {
 
 /// How far outside its cell a sample may lie: a gradient step before a vertex, and what rounding

@@ -62,5 +62,3 @@ private:
 
     void resize(std::uint32_t newBallCount, std::size_t newDepthCount);
 };
-
-extern constinit NearbyBalls nearbyBalls;

@@ -1,12 +1,9 @@
-#include "surface/bounding_box.h"
-#include "surface/cell.h"
+#include "surface/polygonizer.h"
+
 #include "surface/field_sampling.h"
 #include "surface/float4.h"
 #include "surface/frustum.h"
-#include "surface/leaf_drawing.h"
 #include "surface/marching_cubes_tables.h"
-#include "surface/metaball_surface.h"
-#include "surface/nearby_balls.h"
 #include "surface/view_frustum.h"
 
 #include <array>
@@ -77,30 +74,13 @@ unsigned octantsToVisit(const OctantCases& cases, unsigned reachingThreshold)
     return octants;
 }
 
-const CornerSamples& cornerSamples(const BoundingBox& box, const CornerValues& values)
+void setCornerSamples(CornerSamples& samples, const BoundingBox& box, const CornerValues& values)
 {
-    static constinit CornerSamples samples;
     for (std::size_t corner = 0; corner < cornerCount; ++corner) {
         const Vec3 p = cornerPosition(box, corner);
         // In one piece, as it will be read.
         samples[corner] = std::bit_cast<CornerSample>(Float4{p.x, p.y, p.z, values[corner]});
     }
-    return samples;
-}
-
-/// Where a linear field that is `va` at the one end of an edge and `vb` at the other comes to the
-/// threshold, as a part of the way.
-float crossingOf(float va, float vb, float threshold)
-{
-    return (threshold - va) / (vb - va);
-}
-
-/// The point that lies the part `mu` of the way from `pa` to `pb`: of a Vec3, or in the lanes of a
-/// Float4.
-template <typename Point>
-Point pointBetween(const Point& pa, const Point& pb, float mu)
-{
-    return pa + (pb - pa) * mu;
 }
 
 /// Where the surface crosses an edge whose ends lie on different sides of it: x, y and z.
@@ -108,8 +88,8 @@ Float4 crossingOn(std::size_t edge, const CornerSamples& samples, float threshol
 {
     const CornerSample& from = samples[edgeCorners[edge].from];
     const CornerSample& to = samples[edgeCorners[edge].to];
-    return pointBetween(std::bit_cast<Float4>(from), std::bit_cast<Float4>(to),
-                        crossingOf(from.value, to.value, threshold));
+    return crossingBetween(std::bit_cast<Float4>(from), std::bit_cast<Float4>(to), from.value,
+                           to.value, threshold);
 }
 
 Coordinates<Float4> transposed(const std::array<Float4, 4>& p)
@@ -120,24 +100,31 @@ Coordinates<Float4> transposed(const std::array<Float4, 4>& p)
 
 } // namespace
 
-void MetaballSurface::subdivide(OctreeNode& node, const CornerValues& values, std::uint32_t depth,
-                                std::uint8_t caseIndex, std::uint8_t visibility)
+void Polygonizer::begin(std::span<const Metaball> balls, const BoundingBox& region,
+                        std::uint32_t newMaxDepth, float newThreshold)
 {
-    if (depth == octree.maxDepth) {
-        if (caseIndex != allOutside)
-            polygonizeLeaf(cornerSamples(node.bounds, values), caseIndex);
+    nearbyBalls.begin(balls, region, newMaxDepth);
+    maxDepth = newMaxDepth;
+    threshold = newThreshold;
+}
+
+void Polygonizer::subdivide(OctreeNode& node, const CornerValues& values, std::uint32_t depth,
+                            std::uint8_t caseIndex, std::uint8_t visibility)
+{
+    if (depth == maxDepth) {
+        if (caseIndex != allOutside) {
+            setCornerSamples(leafSamples, node.bounds, values);
+            polygonizeLeaf(leafSamples, caseIndex);
+        }
         return;
     }
-
-    // One box for every cell tested: which plane rejected the last one is worth knowing.
-    static constinit BoundingBox testedBox;
 
     const GridLines lines = gridLines(node.bounds);
     const Grid grid = sampleGrid(nearbyBalls.at(depth), lines);
     const OctantCases cases = octantCases(grid, threshold);
     nearbyBalls.measureOctants(depth, lines);
     // A leaf whose corners are all outside holds nothing.
-    const bool leaves = depth + 1 == octree.maxDepth;
+    const bool leaves = depth + 1 == maxDepth;
     const unsigned reaching = leaves ? 0 : nearbyBalls.octantsReaching(depth, threshold);
     for (unsigned open = octantsToVisit(cases, reaching); open != 0; open &= open - 1) {
         const auto k = static_cast<std::size_t>(std::countr_zero(open));
@@ -153,14 +140,7 @@ void MetaballSurface::subdivide(OctreeNode& node, const CornerValues& values, st
     }
 }
 
-void MetaballSurface::interpolateEdge(const Vec3& pa, const Vec3& pb, float va, float vb,
-                                      Vec3& outVertex, float& outValue) const
-{
-    outVertex = pointBetween(pa, pb, crossingOf(va, vb, threshold));
-    outValue = fieldAt(outVertex);
-}
-
-void MetaballSurface::polygonizeLeaf(const CornerSamples& samples, std::uint8_t caseIndex) const
+void Polygonizer::polygonizeLeaf(const CornerSamples& samples, std::uint8_t caseIndex)
 {
     if (edgeTable[caseIndex] == 0)
         return;
@@ -173,14 +153,13 @@ void MetaballSurface::polygonizeLeaf(const CornerSamples& samples, std::uint8_t 
     for (std::size_t i = 0; i < 3; ++i)
         edges[count + i] = edges[0];
 
-    static constinit EdgeVertices vertices{};
     for (std::size_t group = 0; group < count; group += 4) {
         std::array<Float4, 4> p;
         for (std::size_t i = 0; i < 4; ++i)
             p[i] = crossingOn(edges[group + i], samples, threshold);
-        const auto [s, t, z] = surfaceTexCoords(nearbyBalls.at(octree.maxDepth), transposed(p));
+        const auto [s, t, z] = surfaceTexCoords(nearbyBalls.at(maxDepth), transposed(p));
         for (std::size_t i = 0; i < 4; ++i)
-            vertices[edges[group + i]] = {p[i], s[i], t[i]};
+            edgeVertices[edges[group + i]] = {p[i], s[i], t[i]};
     }
-    drawLeaf(vertices, caseIndex);
+    drawLeaf(edgeVertices, caseIndex);
 }
