@@ -27,16 +27,15 @@ std::vector<Leaf>* leavesToKeep = nullptr;
 
 } // namespace
 
-// The linker hands the polygoniser's calls of `drawLeaf` to the first of these, which keeps the
-// leaf on demand, and the calls of the second to `drawLeaf`.
-void drawAndKeepLeaf(const EdgeVertices& vertices, std::uint8_t caseIndex) asm(QUAZO_DRAW_WRAP);
-void drawOneLeaf(const EdgeVertices& vertices, std::uint8_t caseIndex) asm(QUAZO_DRAW_REAL);
+/// The library's own `drawLeaf`, built under this name.
+void sendLeaf(const EdgeVertices& vertices, std::uint8_t caseIndex);
 
-void drawAndKeepLeaf(const EdgeVertices& vertices, std::uint8_t caseIndex)
+// What the polygoniser calls: keeps the leaf on demand.
+void drawLeaf(const EdgeVertices& vertices, std::uint8_t caseIndex)
 {
     if (leavesToKeep != nullptr)
         leavesToKeep->push_back({vertices, caseIndex});
-    drawOneLeaf(vertices, caseIndex);
+    sendLeaf(vertices, caseIndex);
 }
 
 namespace {
@@ -76,7 +75,7 @@ int main(int argumentCount, char** arguments)
     const auto sendingAlone = [&](std::uint32_t frame) {
         shader.apply();
         for (const auto& [vertices, caseIndex] : leaves[frame])
-            drawOneLeaf(vertices, caseIndex);
+            sendLeaf(vertices, caseIndex);
     };
     const auto polygonizedAndSent = [&](std::uint32_t frame) {
         surfaces[frame].polygonizeAndDraw();
