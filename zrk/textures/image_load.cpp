@@ -1,27 +1,21 @@
-#include "zrk/textures/texture.h"
+#include "zrk/textures/image_load.h"
 
-#include "zrk/renderer.h"
 #include "zrk/text_file.h"
-#include "zrk/textures/rgba32_format.h"
+#include "zrk/textures/resample.h"
 
 #include <SDL_image.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
-#include <ostream>
-#include <utility>
 
 namespace zrk {
 
 namespace {
 
-// Pixels in a direction; from here on 16.16 steps overflow. SDL 1.2 itself makes no image of 16384
-// columns or 65536 rows; an SDL that stands in for it may.
-constexpr int sizeLimit = 65536;
-
-// The PNG decoder does not notice the end of a file: in one that is cut off before its image data
-// it reads the same bytes over and over, for ever. Such a file is not shown to it.
+// SDL_image's PNG decoder ignores the end of the file: in a file cut off before its image data it
+// reads the same bytes for ever. So walk the chunks up to the first IDAT before decoding.
 bool isPngWithoutImage(const char* name)
 {
     const OwnedFile file(std::fopen(name, "rb"));
@@ -29,7 +23,7 @@ bool isPngWithoutImage(const char* name)
     if (!file || std::fread(bytes, 1, 8, file.get()) != 8 ||
         std::memcmp(bytes, "\x89PNG\r\n\x1a\n", 8) != 0)
         return false;
-    // Chunks: length, high byte first, and name; so many bytes; a checksum of four.
+    // A chunk: length of its data, big-endian; four letters; the data; a checksum of four bytes.
     constexpr std::uint32_t mostLength = 0x7fffffff - 4;
     while (std::fread(bytes, 1, 8, file.get()) == 8) {
         if (std::memcmp(bytes + 4, "IDAT", 4) == 0)
@@ -44,53 +38,17 @@ bool isPngWithoutImage(const char* name)
     return true;
 }
 
-/// Null when there is no image, or none that a texture could hold.
-OwnedSurface decode(const char* name)
-{
-    if (name == nullptr || isPngWithoutImage(name))
-        return nullptr;
-    OwnedSurface image(IMG_Load(name));
-    if (image && (std::min(image->w, image->h) <= 0 || std::max(image->w, image->h) >= sizeLimit))
-        image.reset();
-    return image;
-}
-
 } // namespace
 
-std::int32_t Texture::load(const char* name, std::ostream* log)
+OwnedSurface loadImage(const char* fileName)
 {
-    OwnedSurface image = decode(name);
-    if (!image) {
-        if (log != nullptr)
-            *log << "Error: cannot load image '" << (name != nullptr ? name : "") << "'\n"
-                 << std::flush;
-        return -1;
-    }
-    freeSurface();
-    surface = image->format->BytesPerPixel == 1 ? std::move(image) : toRgba32(*image);
-    if (!surface || !limitSize())
-        return -1;
-    fileName = name;
-    return 0;
-}
-
-bool Texture::limitSize()
-{
-    const auto width = std::min(static_cast<std::uint32_t>(surface->w), renderer.maxTextureWidth);
-    const auto height = std::min(static_cast<std::uint32_t>(surface->h), renderer.maxTextureHeight);
-    const int newWidth = static_cast<int>(width);
-    const int newHeight = static_cast<int>(height);
-    if (newWidth == surface->w && newHeight == surface->h)
-        return true;
-    const SDL_PixelFormat& format = *surface->format;
-    OwnedSurface smaller(SDL_CreateRGBSurface(0, newWidth, newHeight, format.BitsPerPixel,
-                                              format.Rmask, format.Gmask, format.Bmask,
-                                              format.Amask));
-    if (!smaller)
-        return false;
-    resample(*smaller);
-    surface = std::move(smaller);
-    return true;
+    if (fileName == nullptr || isPngWithoutImage(fileName))
+        return nullptr;
+    OwnedSurface image(IMG_Load(fileName));
+    if (image &&
+        (std::min(image->w, image->h) <= 0 || std::max(image->w, image->h) >= resampleLimit))
+        image.reset();
+    return image;
 }
 
 } // namespace zrk

@@ -1,7 +1,9 @@
-#include "zrk/textures/texture.h"
+#include "zrk/textures/resample.h"
 
 #include <algorithm>
 #include <cassert>
+#include <cstddef>
+#include <cstdint>
 
 namespace zrk {
 
@@ -14,7 +16,8 @@ Pixel* rowOf(const SDL_Surface& surface, std::uint32_t row)
     return reinterpret_cast<Pixel*>(first + std::size_t{row} * surface.pitch);
 }
 
-/// From one destination pixel to the next in the source, in 16.16 fixed point.
+/// How far the source position advances per destination pixel, in 16.16 fixed point. Rounded down,
+/// so the last position stays inside the source.
 std::uint32_t stepBetween(int sourceSize, int destinationSize)
 {
     return (static_cast<std::uint32_t>(sourceSize) << 16) /
@@ -37,7 +40,7 @@ void sampleNearest(const SDL_Surface& source, const SDL_Surface& destination, Re
     }
 }
 
-// SDL_SetPalette does nothing as long as SDL shows no picture of its own.
+// By hand: SDL_SetPalette does nothing unless SDL's video subsystem is running.
 void copyPalette(const SDL_Palette& from, SDL_Palette& to)
 {
     to.ncolors = std::min(from.ncolors, to.ncolors);
@@ -46,19 +49,19 @@ void copyPalette(const SDL_Palette& from, SDL_Palette& to)
 
 } // namespace
 
-void Texture::resample(SDL_Surface& destination) const
+void resampleNearest(const SDL_Surface& source, SDL_Surface& destination)
 {
-    const SDL_PixelFormat& from = *surface->format;
+    const SDL_PixelFormat& from = *source.format;
     const SDL_PixelFormat& to = *destination.format;
     if (from.BytesPerPixel == 1) {
+        // Sampling colours would need a palette to look them up in; indices stay what they are.
         copyPalette(*from.palette, *to.palette);
-        SDL_SetColorKey(&destination, surface->flags & SDL_SRCCOLORKEY, from.colorkey);
-        sampleNearest<std::uint8_t>(*surface, destination,
-                                    [](std::uint8_t index) { return index; });
+        SDL_SetColorKey(&destination, source.flags & SDL_SRCCOLORKEY, from.colorkey);
+        sampleNearest<std::uint8_t>(source, destination, [](std::uint8_t index) { return index; });
         return;
     }
     assert(from.BytesPerPixel == 4);
-    sampleNearest<std::uint32_t>(*surface, destination, [&](std::uint32_t pixel) {
+    sampleNearest<std::uint32_t>(source, destination, [&](std::uint32_t pixel) {
         std::uint8_t red = 0, green = 0, blue = 0;
         SDL_GetRGB(pixel, &from, &red, &green, &blue);
         return SDL_MapRGB(&to, red, green, blue);

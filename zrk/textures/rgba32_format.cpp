@@ -24,7 +24,7 @@ const SDL_PixelFormat rgba32Format = {
 
 OwnedSurface toRgba32(SDL_Surface& surface)
 {
-    SDL_PixelFormat format = rgba32Format; // SDL asks for one that it could write to
+    SDL_PixelFormat format = rgba32Format; // SDL's parameter is not const
     return OwnedSurface(SDL_ConvertSurface(&surface, &format, 0));
 }
 

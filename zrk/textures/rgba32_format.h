@@ -1,17 +1,17 @@
 #pragma once
 
-#include "zrk/textures/texture.h"
+#include "zrk/textures/owned_surface.h"
 
 #include <SDL_video.h>
 
 namespace zrk {
 
-/// The one layout of colour images: on a little-endian machine, the bytes R, G, B, A that
-/// GL_RGBA with GL_UNSIGNED_BYTE takes.
+/// The pixel format of all colour images. On a little-endian machine the bytes in memory are R, G,
+/// B, A, the layout of GL_RGBA with GL_UNSIGNED_BYTE.
 extern const SDL_PixelFormat rgba32Format;
 
-/// A copy of `surface` in `rgba32Format`; null when SDL cannot make it. Alpha channels are kept;
-/// pixels of the colour key become transparent black.
+/// Returns a copy of `surface` in `rgba32Format`, or null if SDL cannot create it. Alpha channels
+/// are kept; pixels of the colour key become transparent black.
 OwnedSurface toRgba32(SDL_Surface& surface);
 
 } // namespace zrk

@@ -2,10 +2,15 @@
 
 #include "zrk/gl.h"
 #include "zrk/renderer.h"
+#include "zrk/textures/image_load.h"
+#include "zrk/textures/resample.h"
+#include "zrk/textures/rgba32_format.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <iterator>
+#include <ostream>
+#include <utility>
 
 namespace zrk {
 
@@ -25,7 +30,9 @@ constexpr UploadFormat uploadFormats[] = {
     {32, GL_RGBA, GL_RGBA, GL_UNSIGNED_BYTE},
 };
 
-// SDL starts every row at a multiple of four bytes, and so does OpenGL's initial unpack state.
+// No pixel-store state is needed: SDL pads rows to multiples of four bytes, which is OpenGL's
+// initial GL_UNPACK_ALIGNMENT. A depth that is not in the table leaves the texture without an
+// image.
 void sendImage(const SDL_Surface& surface, bool mipmap, bool mask)
 {
     const auto* found =
@@ -50,6 +57,47 @@ Texture::~Texture()
         glDeleteTextures(1, &glName);
 }
 
+std::int32_t Texture::load(const char* name, std::ostream* log)
+{
+    OwnedSurface image = loadImage(name);
+    if (!image) {
+        if (log != nullptr)
+            *log << "Error: cannot load image '" << (name != nullptr ? name : "") << "'\n"
+                 << std::flush;
+        return -1;
+    }
+    freeSurface();
+    surface = image->format->BytesPerPixel == 1 ? std::move(image) : toRgba32(*image);
+    if (!surface || !limitSize())
+        return -1;
+    fileName = name;
+    return 0;
+}
+
+bool Texture::limitSize()
+{
+    const auto width = std::min(static_cast<std::uint32_t>(surface->w), renderer.maxTextureWidth);
+    const auto height = std::min(static_cast<std::uint32_t>(surface->h), renderer.maxTextureHeight);
+    const int newWidth = static_cast<int>(width);
+    const int newHeight = static_cast<int>(height);
+    if (newWidth == surface->w && newHeight == surface->h)
+        return true;
+    const SDL_PixelFormat& format = *surface->format;
+    OwnedSurface smaller(SDL_CreateRGBSurface(0, newWidth, newHeight, format.BitsPerPixel,
+                                              format.Rmask, format.Gmask, format.Bmask,
+                                              format.Amask));
+    if (!smaller)
+        return false;
+    resample(*smaller);
+    surface = std::move(smaller);
+    return true;
+}
+
+void Texture::resample(SDL_Surface& destination) const
+{
+    resampleNearest(*surface, destination);
+}
+
 std::uint32_t Texture::upload()
 {
     if (surface && glName == 0) {
@@ -57,9 +105,10 @@ std::uint32_t Texture::upload()
         glBindTexture(GL_TEXTURE_2D, glName);
         sendImage(*surface, mipmap, mask);
     }
+    // Also reached without an upload: an error left by the window's set-up ends the program here.
     if (const GLenum error = glGetError(); error != GL_NO_ERROR) {
         renderer.reportGlError(error);
-        std::exit(-1); // as any end of the program: the long-lived objects are destroyed in order
+        std::exit(-1); // not abort: the long-lived objects are destroyed in order
     }
     return glName;
 }

@@ -21,7 +21,8 @@ namespace {
 
 using enum TexturePool::Code;
 
-// By code, 4 being a write error, which never happens; the name follows, and an apostrophe.
+// Indexed by code. The loader never produces 4, a write error. Each text is followed by a name and
+// closed by an apostrophe.
 constexpr std::array messages = {
     "Successfully loaded `",   "Error opening file `",    "Error closing file `",
     "Error reading in file `", "Error writing in file `", "Unknown texture parameter `",
@@ -39,7 +40,7 @@ constexpr Option options[] = {
     {"gray", &Texture::grey},
 };
 
-/// The pool file, a line and in it a token at a time.
+/// Reads the pool file line by line, and each line token by token.
 class PoolReader {
 public:
     explicit PoolReader(std::FILE* poolFile) : file(poolFile) {}
@@ -50,17 +51,17 @@ public:
         return readLine(file, line);
     }
 
-    /// Null at the end of the line.
+    /// Returns null at the end of the line.
     const char* nextToken()
     {
         token = tokens.next(", \n");
         return token;
     }
 
-    /// The last one that `nextToken` found, until the next line is read.
+    /// The last result of `nextToken`; valid until the next line is read.
     const char* currentToken() const { return token; }
 
-    /// The number at the start of the line, brought into the range of a count.
+    /// The number at the start of the line, clamped to 0 ... 2^32 - 1.
     std::uint32_t lineCount() const
     {
         constexpr long long most = std::numeric_limits<std::uint32_t>::max();
@@ -68,7 +69,8 @@ public:
             std::clamp(std::strtoll(line.data(), nullptr, 10), 0LL, most));
     }
 
-    /// No more lines than this can follow; a pipe, whose length nobody knows, promises them all.
+    /// Upper bound of the lines left: a line has at least one byte. Unbounded for a stream that
+    /// cannot seek.
     std::uint32_t mostLinesLeft() const
     {
         constexpr long most = std::numeric_limits<std::int32_t>::max();
@@ -84,7 +86,7 @@ public:
 
 private:
     std::FILE* file;
-    std::array<char, 1024> line{}; // the line feed and the terminator included
+    std::array<char, 1024> line{}; // including the line feed and the terminator
     LineTokens tokens{line.data()};
     const char* token = nullptr;
 };
@@ -122,7 +124,7 @@ std::int32_t readTextures(PoolReader& reader, TexturePool& pool, std::ostream* l
     const std::uint32_t announced = reader.lineCount();
     if (announced == 0)
         return noTextures;
-    // The lines decide whether the file keeps its promise; memory is taken for what it can keep.
+    // Allocate at most one texture per remaining line: the announced count may lie.
     pool.resize(std::min(announced, reader.mostLinesLeft()));
     for (std::uint32_t i = 0; i < pool.count; ++i) {
         if (!reader.nextLine())
@@ -145,11 +147,12 @@ std::int32_t TexturePool::load(const char* name, std::ostream* log)
     }
     PoolReader reader(file.get());
     std::int32_t result = readTextures(reader, *this, log);
+    // A failed close replaces every result but these two.
     if (!closeFile(std::move(file)) && result != unknownOption && result != cannotConvert)
         result = cannotCloseFile;
     if (result == loaded)
         fileName = name;
-    if (result != cannotLoadImage && result != cannotConvert) // the image loader has had its say
+    if (result != cannotLoadImage && result != cannotConvert) // the image loader wrote its own line
         report(result, result == unknownOption ? reader.currentToken() : name, log);
     return result;
 }

@@ -9,10 +9,10 @@
 
 namespace zrk {
 
-/// Every texture of the program, numbered from 0 in the order of the textures pool file.
+/// All textures, numbered from 0 in the order of their lines in the textures pool file.
 class TexturePool {
 public:
-    /// What `load` answers.
+    /// Results of `load`.
     enum Code : std::int32_t {
         loaded = 0,
         cannotOpenFile = 1,
@@ -21,26 +21,27 @@ public:
         unknownOption = 5,
         cannotConvert = 6,
         noFirstLine = -1,
-        noTextures = -2, ///< The count is 0, negative, or no number.
+        noTextures = -2, ///< The count is 0, negative, or not a number.
         tooFewLines = -4,
-        cannotLoadImage = -100, ///< The image's own result a hundredfold.
+        cannotLoadImage = -100, ///< The result of `Texture::load` times 100.
     };
 
     std::uint32_t count = 0;
     std::unique_ptr<Texture[]> textures;
 
-    /// The pool file last loaded to its end.
+    /// The file of the last successful `load`; empty before.
     String fileName;
 
-    /// Replaces the textures by those that the pool file `name` lists: `loaded`, or the `Code` of
-    /// what went wrong. A load that fails at a texture line keeps the textures before it. `log` may
-    /// be null. No memory is `Cexception`.
+    /// Replaces the textures by those listed in the pool file `name`. Returns `loaded` or the
+    /// `Code` of the first failure; the textures loaded before it stay. Messages go to `log`, which
+    /// may be null. Throws `Cexception` without memory.
     [[nodiscard]] std::int32_t load(const char* name, std::ostream* log);
 
     /// Uploads every texture, number 0 first. An OpenGL context must be current.
     void uploadAll();
 
-    /// Drops all textures and makes `newCount` empty ones. No memory is `Cexception`.
+    /// Replaces all textures by `newCount` empty ones. Throws `Cexception` without memory; the pool
+    /// is empty then.
     void resize(std::uint32_t newCount);
 
 private:
