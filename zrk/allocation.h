@@ -9,8 +9,8 @@
 
 namespace zrk {
 
-/// A value-initialised array of `count` elements, owned by the caller. No memory, or a count
-/// that no memory could ever hold, is `Cexception`.
+/// Returns a new value-initialised array of `count` elements. Throws `Cexception` without memory,
+/// and for a count that no array can have.
 template <typename Element>
 std::unique_ptr<Element[]> newArray(std::size_t count)
 try {
@@ -19,7 +19,7 @@ try {
     throw Cexception();
 }
 
-/// A new object, owned by the caller. No memory is `Cexception`.
+/// Returns a new object. Throws `Cexception` without memory.
 template <typename Object, typename... Arguments>
 std::unique_ptr<Object> newObject(Arguments&&... arguments)
 try {

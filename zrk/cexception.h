@@ -4,7 +4,7 @@
 
 namespace zrk {
 
-/// Thrown whenever an allocation yields no memory. Nothing catches it: the process ends.
+/// Thrown when an allocation fails. Nothing catches it, so it ends the process.
 struct Cexception {
     std::int32_t first = 1;
     std::int32_t second = 2;

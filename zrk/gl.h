@@ -1,6 +1,7 @@
 #pragma once
 
-// The one place where OpenGL and GLU come in. On Windows their headers need the Win32 types.
+// The only file that includes OpenGL and GLU. On Windows their headers need the Win32 types, whose
+// header defines `far` and `near` as macros.
 #ifdef _WIN32
 #include <windows.h>
 #undef far

@@ -4,7 +4,7 @@
 
 namespace zrk {
 
-/// Keeps the attribute groups in `mask` for its lifetime.
+/// Saves the attribute groups in `mask` and restores them at the end of the scope.
 class AttribScope {
 public:
     explicit AttribScope(GLbitfield mask) { glPushAttrib(mask); }
@@ -13,8 +13,9 @@ public:
     ~AttribScope() { glPopAttrib(); }
 };
 
-/// Makes the model-view and projection matrices identities for its lifetime: vertices are given
-/// in clip space. The projection matrix is current within it, the model-view matrix after it.
+/// Replaces the model-view and projection matrices by identities until the end of the scope, so
+/// that vertices are given in clip space. Inside, the projection matrix is the current one;
+/// afterwards the model-view matrix is.
 class ClipSpaceScope {
 public:
     ClipSpaceScope()
@@ -30,7 +31,7 @@ public:
     ClipSpaceScope(const ClipSpaceScope&) = delete;
     ClipSpaceScope& operator=(const ClipSpaceScope&) = delete;
 
-    /// Whoever drew within it left the projection matrix current.
+    /// The projection matrix must still be the current one.
     ~ClipSpaceScope()
     {
         glPopMatrix();

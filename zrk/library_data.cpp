@@ -11,10 +11,10 @@ namespace zrk {
 
 namespace {
 
-// With the line feed and the terminator: a longer name goes on in the next line.
+// Including the line feed and the terminator; the rest of a longer line is read as the next line.
 using LineBuffer = std::array<char, 4096>;
 
-// Past the end of the file a name is empty, which no pool can open.
+// At the end of the file the line becomes empty, a name that no pool can open.
 void readName(std::FILE* file, LineBuffer& line)
 {
     if (readLine(file, line))
@@ -38,6 +38,7 @@ std::int32_t LibraryData::loadData(const char* fileName, std::ostream* log)
     if (result == 0) {
         readName(file.get(), line);
         failure = "Error loading shaders pool file : '";
+        // Without a log: the shaders pool writes to C streams only.
         result = static_cast<std::int32_t>(shaders.load(line.data(), nullptr));
     }
     if (result != 0 && log != nullptr)
@@ -47,7 +48,7 @@ std::int32_t LibraryData::loadData(const char* fileName, std::ostream* log)
 
 void LibraryData::upload()
 {
-    textures.uploadAll(); // the layers copy the names that this makes
+    textures.uploadAll(); // first, because the layers copy the names that it generates
     shaders.resolve(textures);
 }
 

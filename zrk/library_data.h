@@ -8,19 +8,20 @@
 
 namespace zrk {
 
-/// Everything that is loaded to draw with. There is one, `libraryData`.
+/// All loaded rendering data. There is one instance, `libraryData`.
 class LibraryData {
 public:
     TexturePool textures;
-    ShaderPool shaders; ///< Destroyed before the textures that its layers name.
+    ShaderPool shaders; ///< Destroyed first.
 
-    /// Loads both pools; `fileName` is a text file of two lines, the textures pool file's name and
-    /// the shaders pool file's. 0 is success, 1 a data file that cannot be opened, anything else
-    /// the result of the pool that failed; the log lines go to `log`, which may be null.
+    /// Loads both pools from the data file, a text file of two lines: the name of the textures pool
+    /// file and the name of the shaders pool file. Returns 0, or 1 if the data file cannot be
+    /// opened, or the non-zero result of the pool that failed. Messages go to `log`, which may be
+    /// null.
     [[nodiscard]] std::int32_t loadData(const char* fileName, std::ostream* log);
 
-    /// Makes the texture objects and tells the layers their names. Called once, after `loadData`
-    /// has succeeded, with an OpenGL context current.
+    /// Creates the texture objects, then lets the layers look up their names. Call it once, after a
+    /// successful `loadData`, with an OpenGL context current.
     void upload();
 };
 

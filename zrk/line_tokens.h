@@ -2,15 +2,15 @@
 
 namespace zrk {
 
-/// Cuts a line into tokens. Each scan says what separates its token: a shader's line is cut at
-/// other characters after its keyword, and at others again within angle brackets.
+/// Splits a line into tokens as `strtok` does, with its state in an object. Each call has its own
+/// delimiters: a layer line has one set for its keyword, one for words, one for numbers.
 class LineTokens {
 public:
-    /// `line` is borrowed; every token found is terminated in place.
+    /// `line` is borrowed, and changed: every token is terminated in place.
     explicit LineTokens(char* line) : rest(line) {}
 
-    /// Skips leading `delimiters` and takes what stands before the next one, which is consumed
-    /// with it. Null when nothing is left.
+    /// Skips leading `delimiters` and returns the text before the next one, which is consumed as
+    /// well. Returns null at the end of the line.
     char* next(const char* delimiters);
 
 private:

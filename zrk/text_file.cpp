@@ -7,7 +7,7 @@ namespace zrk {
 
 namespace {
 
-// Some systems open a directory like a file and refuse only to read it.
+// On POSIX systems opening a directory succeeds; reading from it fails with EISDIR.
 bool isDirectory(std::FILE* file)
 {
     errno = 0;

@@ -6,30 +6,31 @@
 
 namespace zrk {
 
-// Text files as a text-mode stream gives them: a carriage return right before a line feed is not
-// seen. A lone carriage return is a character like any other.
+// Text files, with CR LF read as LF on every system. A carriage return without a line feed is an
+// ordinary character.
 
 struct CloseFile {
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
 
-/// An open file, closed with its owner on whichever way that goes. `closeFile` closes it where
-/// the outcome counts.
+/// Owns an open file. Its destructor ignores a failure to close; `closeFile` reports it.
 using OwnedFile = std::unique_ptr<std::FILE, CloseFile>;
 
-/// Opens `fileName` for reading; null when it cannot be opened. A directory cannot, nor a null
-/// name.
+/// Opens `fileName` for reading. Returns null for a null name, a directory, and a file that cannot
+/// be opened.
 [[nodiscard]] OwnedFile openTextFile(const char* fileName);
 
-/// Closes `file`, which is there; false when closing reports a failure. It is closed either way.
+/// Closes `file`, which must not be null. Returns false if closing failed; the file is gone either
+/// way.
 [[nodiscard]] bool closeFile(OwnedFile file);
 
-/// The next character, or EOF at the end and after a read error, which `ferror` tells apart.
+/// Returns the next character, or EOF at the end of the file and after a read error; `ferror`
+/// tells which.
 [[nodiscard]] int readCharacter(std::FILE* file);
 
-/// Reads as `fgets` does: up to and including a line feed, at most `line.size()` - 1 characters,
-/// always terminated. The rest of a longer line is the next line. False, and an empty line, when
-/// not one character could be read before the end of the file, or when reading failed.
+/// Reads a line as `fgets` does: up to and including a line feed, at most `line.size()` - 1
+/// characters, always terminated. The rest of a longer line is the next line. Returns false and an
+/// empty line at the end of the file and after a read error.
 [[nodiscard]] bool readLine(std::FILE* file, std::span<char> line);
 
 } // namespace zrk
