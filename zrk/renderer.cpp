@@ -33,25 +33,31 @@ constexpr GlErrorText glErrorTexts[] = {
     {GL_OUT_OF_MEMORY, "not enough memory left to execute command."},
 };
 
-// Whichever units a shader has left enabled or selected. The attribute stack brings both back.
-void disableTexturing(const Renderer& with)
-{
-    if (!with.severalUnitsUsed) {
-        glDisable(GL_TEXTURE_2D);
-        return;
-    }
-    constexpr GLenum units[] = {GL_TEXTURE1_ARB, GL_TEXTURE0_ARB};
-    for (const GLenum unit : units) {
-        with.glActiveTextureARB(unit);
-        glDisable(GL_TEXTURE_2D);
-    }
-}
-
 } // namespace
 
 Renderer::~Renderer()
 {
     SDL_Quit();
+}
+
+void Renderer::selectUnit(std::uint32_t unit)
+{
+    if (!multitextureAvailable)
+        return;
+    glActiveTextureARB(GL_TEXTURE0_ARB + unit);
+    severalUnitsUsed |= unit > 0;
+}
+
+void Renderer::returnToFirstUnit()
+{
+    if (unitSwitched)
+        selectUnit(0);
+    unitSwitched = false;
+}
+
+void Renderer::noteUnitsSwitched()
+{
+    unitSwitched = true;
 }
 
 void Renderer::fadeScreen(float alpha, GLbitfield clearMask)
@@ -60,7 +66,7 @@ void Renderer::fadeScreen(float alpha, GLbitfield clearMask)
     const AttribScope attributes(GL_LIGHTING_BIT | GL_TEXTURE_BIT);
     glDisable(GL_DEPTH_TEST);
     glDisable(GL_LIGHTING);
-    disableTexturing(*this);
+    disableTexturing();
     {
         const ClipSpaceScope clipSpace; // (-1, -1) to (1, 1) is the whole view
         glColor4f(0.0f, 0.0f, 0.0f, alpha);
@@ -69,7 +75,20 @@ void Renderer::fadeScreen(float alpha, GLbitfield clearMask)
             glVertex2i(x, y);
         glEnd();
     }
-    glEnable(GL_DEPTH_TEST); // the attribute scope does not cover it
+    glEnable(GL_DEPTH_TEST); // belongs to an attribute group that was not saved
+}
+
+// The attribute scope restores both what is enabled and which unit is selected.
+void Renderer::disableTexturing()
+{
+    if (!severalUnitsUsed) {
+        glDisable(GL_TEXTURE_2D);
+        return;
+    }
+    for (const std::uint32_t unit : {1u, 0u}) {
+        selectUnit(unit);
+        glDisable(GL_TEXTURE_2D);
+    }
 }
 
 void Renderer::reportGlError(GLenum code)

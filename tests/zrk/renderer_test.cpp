@@ -7,10 +7,11 @@
 TEST(Renderer, FadesTheWholeViewAndLeavesDepthTestingOn)
 {
     zrk::Renderer renderer;
+    renderer.multitextureAvailable = true;
     renderer.glActiveTextureARB = gl_recorder::activeTexture;
     for (const bool severalUnits : {false, true}) {
+        renderer.selectUnit(severalUnits ? 1 : 0);
         gl_recorder::reset();
-        renderer.severalUnitsUsed = severalUnits;
         renderer.fadeScreen(0.25f, GL_COLOR_BUFFER_BIT);
         std::string calls;
         for (const std::string& call : gl_recorder::takeCalls())

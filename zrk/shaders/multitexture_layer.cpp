@@ -31,7 +31,7 @@ void MultitextureLayer::apply()
         const TextureState& state = stages[unit].state;
         if (prepared && isBound(unit, state.glName))
             continue;
-        selectUnit(unit);
+        renderer.selectUnit(unit);
         if (prepared)
             glBindTexture(GL_TEXTURE_2D, state.glName);
         else
@@ -39,18 +39,18 @@ void MultitextureLayer::apply()
         noteBound(unit, state.glName);
     }
     prepared = true;
-    noteUnitsSwitched();
+    renderer.noteUnitsSwitched();
 }
 
 void MultitextureLayer::reapply()
 {
     const std::uint32_t shown = enableUnits();
     for (std::uint32_t unit = 0; unit < shown; ++unit) {
-        selectUnit(unit);
+        renderer.selectUnit(unit);
         sendTextureState(stages[unit].state);
     }
     prepared = true; // the cache of bound names is apply's alone
-    noteUnitsSwitched();
+    renderer.noteUnitsSwitched();
 }
 
 void MultitextureLayer::readBack()

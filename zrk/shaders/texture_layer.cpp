@@ -2,6 +2,7 @@
 
 #include "zrk/allocation.h"
 #include "zrk/owned_string.h"
+#include "zrk/renderer.h"
 #include "zrk/shaders/layer_text.h"
 #include "zrk/shaders/shader.h"
 #include "zrk/shaders/texture_units.h"
@@ -30,7 +31,7 @@ void TextureLayer::reapply()
 
 void TextureLayer::readBack()
 {
-    returnToFirstUnit();
+    renderer.returnToFirstUnit();
     if (prepared)
         readBackTextureState(state);
 }

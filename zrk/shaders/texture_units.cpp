@@ -21,17 +21,18 @@ void switchTexturing(bool on)
         glDisable(GL_TEXTURE_2D);
 }
 
+// Enabling belongs to the selected unit, so each unit is selected before it is switched.
 void switchUnits(std::uint32_t mask, std::uint32_t changed)
 {
     const bool second = (mask & secondUnit) != 0;
     if ((changed & secondUnit) != 0) {
-        selectUnit(1);
+        renderer.selectUnit(1);
         switchTexturing(second);
         if (!second)
-            selectUnit(0);
+            renderer.selectUnit(0);
     }
     if ((changed & firstUnit) != 0) {
-        selectUnit(0);
+        renderer.selectUnit(0);
         switchTexturing((mask & firstUnit) != 0);
     }
 }
@@ -48,34 +49,14 @@ void setTextureUnits(std::uint32_t mask)
     glCaches.enabledUnits = mask;
 }
 
-void selectUnit(std::uint32_t unit)
-{
-    if (!renderer.multitextureAvailable)
-        return;
-    renderer.glActiveTextureARB(GL_TEXTURE0_ARB + unit);
-    renderer.severalUnitsUsed |= unit > 0;
-}
-
-void returnToFirstUnit()
-{
-    if (glCaches.unitSwitched)
-        selectUnit(0);
-    glCaches.unitSwitched = false;
-}
-
-void noteUnitsSwitched()
-{
-    glCaches.unitSwitched = true;
-}
-
 std::uint32_t shownStages(std::uint32_t stageCount)
 {
     if (stageCount <= renderer.textureUnits)
         return stageCount;
-    if (!glCaches.shortageStated)
+    if (!glCaches.shortageReported)
         std::fputs("quazo: too few texture units: only the first of several textures is shown\n",
                    stderr);
-    glCaches.shortageStated = true;
+    glCaches.shortageReported = true;
     return 1;
 }
 

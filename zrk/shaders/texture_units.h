@@ -8,46 +8,41 @@
 
 namespace zrk {
 
-/// The most stages that a layer may have, one texture unit each.
+/// Most stages of a layer; stage i belongs to texture unit i.
 inline constexpr std::uint32_t maxStages = 4;
 
-/// What the layers know of OpenGL's state without asking it. It holds as long as nobody else
-/// changes texturing or what is bound, or does and restores it before the next `Shader::apply`.
+/// Copies of OpenGL state that let layers skip calls. They stay correct as long as other code
+/// restores what it enables or binds before the next `Shader::apply`. Which unit is selected is
+/// the `renderer`'s business.
 struct GlCaches {
-    std::uint32_t enabledUnits = 0; ///< The last mask of `setTextureUnits`; bit 0 is unit 0.
+    std::uint32_t enabledUnits = 0; ///< Last mask given to `setTextureUnits`.
 
-    /// Per unit, the texture name that an `apply` last bound there; -1 for none.
+    /// Per unit, the texture name that `apply` last bound there; -1 for none.
     std::array<std::int32_t, maxStages> boundTexture{-1, -1, -1, -1};
 
-    bool colorChanged = false;   ///< A layer's colour is current.
-    bool unitSwitched = false;   ///< Another unit than 0 may be selected.
-    bool shortageStated = false; ///< It was said that there are too few units.
+    bool colorChanged = false;     ///< The current colour is a color layer's.
+    bool shortageReported = false; ///< The message about too few units was written.
 };
 
-/// One OpenGL context, one state. Only the functions below change it.
+/// State of the one OpenGL context. Only the functions below change it.
 extern constinit GlCaches glCaches;
 
-/// Enables texturing on the units of `mask`, of which only bits 0 and 1 count, and disables it on
-/// the others. Without multitexture any unit stands for the only one. While bit 1 is off, unit 0
-/// is the one selected.
+/// Enables texturing on the units in `mask` (bit i is unit i; only units 0 and 1 count) and
+/// disables it on the others. Without multitexture any non-zero mask enables the single unit.
+/// Switching unit 1 on leaves it selected unless unit 0 changes too; every other change leaves unit
+/// 0 selected.
 void setTextureUnits(std::uint32_t mask);
 
-/// Makes `unit` the one that texture calls address. Without multitexture there is no choice.
-void selectUnit(std::uint32_t unit);
-
-/// Selects unit 0 when `noteUnitsSwitched` was called since the last time.
-void returnToFirstUnit();
-void noteUnitsSwitched();
-
-/// Which of `stageCount` stages can be shown: all, or the first alone when there are fewer units
-/// than stages, which is stated on standard error, once.
+/// Returns how many of `stageCount` stages can be applied: all of them, or only the first if there
+/// are more stages than units. The first such shortage is reported on standard error.
 std::uint32_t shownStages(std::uint32_t stageCount);
 
+/// The cache `boundTexture`.
 bool isBound(std::uint32_t unit, GLuint glName);
 void noteBound(std::uint32_t unit, GLuint glName);
 
-/// Sets the current colour for a layer; `restoreColor` makes it white again for shaders without
-/// one. A colour that others have set stays.
+/// Sets the current colour for a layer. `restoreColor` makes it white again, for shaders without a
+/// color layer, but leaves a colour alone that other code has set.
 void setColor(std::span<const GLfloat, 4> rgba);
 void restoreColor();
 

@@ -74,7 +74,7 @@ void expectRoundTrip(const std::string& line, const std::string& call, const std
 
 TEST(Keywords, AreTakenInTheirPlacesAloneReachOpenGlAndComeBack)
 {
-    glCaches = {.shortageStated = true};
+    glCaches = {.shortageReported = true};
     std::set<std::string> words{"bool", "true", "texture", "multitexture", "color", "Linear"};
     for (const Place& place : places)
         words.merge(wordsOf(place.words));

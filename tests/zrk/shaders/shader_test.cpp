@@ -61,7 +61,9 @@ struct MixedPool : LoadedPool {
                      "1 linear linear repeat repeat decal 0 0 0 0 "
                      "1 linear linear repeat repeat decal 0 0 0 0\n}\n")
     {
-        glCaches = {.shortageStated = glCaches.shortageStated};
+        glCaches = {.shortageReported = glCaches.shortageReported};
+        std::destroy_at(&renderer);
+        std::construct_at(&renderer);
         renderer.multitextureAvailable = units > 1;
         renderer.glActiveTextureARB = units > 1 ? gl_recorder::activeTexture : nullptr;
         renderer.textureUnits = units;
@@ -74,7 +76,7 @@ struct MixedPool : LoadedPool {
         gl_recorder::reset();
     }
 
-    ~MixedPool() { renderer.multitextureAvailable = renderer.severalUnitsUsed = false; }
+    ~MixedPool() { renderer.multitextureAvailable = false; }
 };
 
 const std::string sendLit =
