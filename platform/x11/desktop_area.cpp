@@ -1,8 +1,5 @@
 #include "platform/x11/desktop_area.h"
 
-#include "platform/x11/display.h"
-#include "platform/x11/host_window.h"
-
 #include <X11/extensions/Xrandr.h>
 
 #include <algorithm>
@@ -31,12 +28,15 @@ desktop::Size sizeOf(Display* display, ::Window window)
     return {static_cast<int>(width), static_cast<int>(height)};
 }
 
-DesktopArea desktopArea(Display* display)
+DesktopArea areaOf(Display* display, ::Window window)
 {
-    if (hosted())
-        return {hostWindow(), {0, 0}, sizeOf(display, hostWindow())};
+    return {window, {0, 0}, sizeOf(display, window)};
+}
+
+DesktopArea primaryMonitor(Display* display)
+{
     const ::Window root = DefaultRootWindow(display);
-    const DesktopArea screen{root, {0, 0}, sizeOf(display, root)};
+    const DesktopArea screen = areaOf(display, root);
     if (!knowsMonitors(display))
         return screen;
     int count = 0;
@@ -53,12 +53,3 @@ DesktopArea desktopArea(Display* display)
 }
 
 } // namespace platform::x11
-
-bool platform::desktop::size(Size& result)
-{
-    Display* const display = x11::connection();
-    if (display == nullptr)
-        return false;
-    result = x11::desktopArea(display).size;
-    return true;
-}

@@ -6,8 +6,7 @@
 
 namespace platform::x11 {
 
-/// Where the desktop lies: what its windows are children of, its top left corner there, its size.
-/// The primary monitor on the root window, or the whole of a host's window.
+/// Where a desktop lies: what its windows are children of, its top left corner there, its size.
 struct DesktopArea {
     ::Window parent = 0;
     POINT corner{};
@@ -17,7 +16,10 @@ struct DesktopArea {
 /// A window's size, asked of the server; 0 x 0 for one that is gone.
 [[nodiscard]] desktop::Size sizeOf(Display* display, ::Window window);
 
-/// The desktop as it is now; asks the server.
-[[nodiscard]] DesktopArea desktopArea(Display* display);
+/// The primary monitor on the root window, as it is now; asks the server.
+[[nodiscard]] DesktopArea primaryMonitor(Display* display);
+
+/// The whole of a window, as it is now; asks the server.
+[[nodiscard]] DesktopArea areaOf(Display* display, ::Window window);
 
 } // namespace platform::x11

@@ -1,12 +1,11 @@
 #include "platform/x11/display.h"
 
-#include "platform/x11/host_window.h"
-
 #include <X11/XKBlib.h>
 
 #include <array>
 #include <cstddef>
 #include <unistd.h>
+#include <utility>
 
 namespace platform::x11 {
 
@@ -38,37 +37,39 @@ constinit Display* theConnection = nullptr;
 constinit bool tried = false;
 constinit std::array<Atom, atomCount> atoms{};
 constinit XErrorTrap* innermostTrap = nullptr;
+constinit ErrorObserver observer = nullptr;
 
 int endQuietly(Display* /*display*/)
 {
     _exit(0);
 }
 
-void open()
+void prepare(Display* display)
 {
-    tried = true;
-    theConnection = XOpenDisplay(nullptr);
-    if (theConnection == nullptr)
-        return;
-    installErrorHandlers();
     auto texts = atomTexts;
-    XInternAtoms(theConnection, const_cast<char**>(texts.data()), static_cast<int>(atomCount),
-                 False, atoms.data());
+    XInternAtoms(display, const_cast<char**>(texts.data()), static_cast<int>(atomCount), False,
+                 atoms.data());
     // A key that is held then repeats its press alone: it does not look let go in between.
-    XkbSetDetectableAutoRepeat(theConnection, True, nullptr);
-    adoptHost(theConnection);
+    XkbSetDetectableAutoRepeat(display, True, nullptr);
 }
 
 } // namespace
 
-Display* connection()
+Display* openConnection()
 {
-    if (!tried)
-        open();
+    if (std::exchange(tried, true))
+        return theConnection;
+    theConnection = XOpenDisplay(nullptr);
+    if (theConnection == nullptr)
+        return nullptr;
+    observer = nullptr;
+    XSetErrorHandler(&XErrorTrap::note); // for every connection of this process
+    XSetIOErrorHandler(&endQuietly);
+    prepare(theConnection);
     return theConnection;
 }
 
-Display* openConnection()
+Display* connection()
 {
     return theConnection;
 }
@@ -81,10 +82,9 @@ void closeConnection()
     tried = false;
 }
 
-void installErrorHandlers()
+void observeErrors(ErrorObserver newObserver)
 {
-    XSetErrorHandler(&XErrorTrap::note);
-    XSetIOErrorHandler(&endQuietly);
+    observer = newObserver;
 }
 
 XErrorTrap::XErrorTrap(Display* display)
@@ -108,8 +108,8 @@ int XErrorTrap::firstError()
 
 int XErrorTrap::note(Display* source, XErrorEvent* error)
 {
-    if (meansHostIsGone(*error))
-        endQuietly(source);
+    if (observer != nullptr)
+        observer(*error);
     XErrorTrap* trap = innermostTrap;
     while (trap != nullptr && (trap->server != source || error->serial < trap->firstRequest))
         trap = trap->outer;

@@ -5,22 +5,25 @@
 /// The one connection to the X server, its errors and its atoms.
 namespace platform::x11 {
 
-/// The connection, opened by the first call; null when there is no server to talk to, which is
-/// found out once. Losing it ends the process at once with status 0: no destructor runs, so
-/// nothing calls OpenGL on a connection that is gone.
-[[nodiscard]] Display* connection();
+/// Opens the connection, unless it is open; null when there is no server to talk to, which is found
+/// out once. Losing it ends the process at once with status 0: no destructor runs, so nothing calls
+/// OpenGL on a connection that is gone.
+Display* openConnection();
 
-/// The connection if it is open; never opens it.
-[[nodiscard]] Display* openConnection();
+/// The connection if it is open, else null.
+[[nodiscard]] Display* connection();
 
 void closeConnection();
 
-/// Makes ours the handlers of X errors, for every connection of this process. An error outside an
-/// XErrorTrap is ignored: a saver outlives a hiccup.
-void installErrorHandlers();
+/// Is told of every X error of the process, before anything else is done about it.
+using ErrorObserver = void (*)(const XErrorEvent& error);
+
+/// There is one observer at a time; a new connection begins without.
+void observeErrors(ErrorObserver observer);
 
 /// Notes the first X error among the requests made in its scope. Scopes nest; the innermost one
-/// that was open when a request was made gets its error.
+/// that was open when a request was made gets its error. Errors outside of all scopes are ignored:
+/// they come of windows that others destroyed meanwhile, and the saver can go on.
 class XErrorTrap {
 public:
     explicit XErrorTrap(Display* display);
@@ -33,7 +36,7 @@ public:
     [[nodiscard]] int firstError();
 
 private:
-    friend void installErrorHandlers();
+    friend Display* openConnection();
     static int note(Display* source, XErrorEvent* error);
 
     Display* server;

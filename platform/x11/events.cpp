@@ -1,9 +1,11 @@
-#include "platform/desktop.h"
+#include "platform/x11/events.h"
+
+#include "platform/x11/client_size.h"
 #include "platform/x11/display.h"
 #include "platform/x11/host_window.h"
 #include "platform/x11/keys.h"
-#include "platform/x11/window.h"
 #include "platform/x11/window_manager.h"
+#include "platform/x11/window_table.h"
 
 #include <X11/Xutil.h>
 
@@ -119,7 +121,6 @@ bool onProperty(WindowRecord& record, const XEvent& event, Message& result)
     return true;
 }
 
-// Told by nextMessage once nothing else waits: of many sizes the last one is enough.
 bool onConfigure(WindowRecord& record, const XEvent& event, Message& /*result*/)
 {
     updateClientSize(event.xany.display, record);
@@ -167,7 +168,7 @@ bool translate(XEvent& event, Message& result)
         XRefreshKeyboardMapping(&event.xmapping);
     if (followHost(event))
         return false;
-    WindowRecord* const record = findWindow(event.xany.window);
+    WindowRecord* const record = findRecord(event.xany.window);
     const auto translation =
         std::find_if(std::begin(translations), std::end(translations),
                      [&event](const Translation& entry) { return entry.eventType == event.type; });
@@ -175,27 +176,33 @@ bool translate(XEvent& event, Message& result)
            translation->translate(*record, event, result);
 }
 
-} // namespace
-
-} // namespace platform::x11
-
-bool platform::desktop::nextMessage(Message& result)
+// Told once nothing else waits: of many sizes the last one is enough.
+bool tellSize(Message& result)
 {
-    using namespace platform::x11;
-    Display* const display = openConnection();
-    if (display == nullptr)
-        return false;
-    XEvent event;
-    while (XPending(display) > 0) {
-        XNextEvent(display, &event);
-        if (translate(event, result))
-            return true;
-    }
-    WindowRecord* const resized = windowOfUntoldSize();
-    if (resized == nullptr)
+    const auto records = windowRecords();
+    const auto resized =
+        std::find_if(records.begin(), records.end(), [](const WindowRecord& record) {
+            return record.id != 0 && record.sizeIsToTell;
+        });
+    if (resized == records.end())
         return false;
     resized->sizeIsToTell = false;
     result = plainMessage(*resized, WM_SIZE, SIZE_RESTORED, 0);
     result.client = resized->client;
     return true;
 }
+
+} // namespace
+
+bool nextMessage(Display* display, Message& result)
+{
+    XEvent event;
+    while (XPending(display) > 0) {
+        XNextEvent(display, &event);
+        if (translate(event, result))
+            return true;
+    }
+    return tellSize(result);
+}
+
+} // namespace platform::x11

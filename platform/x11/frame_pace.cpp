@@ -1,7 +1,5 @@
 #include "platform/x11/frame_pace.h"
 
-#include "platform/x11/desktop_area.h"
-
 #include <memory>
 #include <span>
 
@@ -33,9 +31,8 @@ bool contains(const XRRCrtcInfo& monitor, int x, int y)
 }
 
 // The mode of the monitor that shows the middle of the desktop; 0 when none does.
-RRMode desktopMode(Display* display, XRRScreenResources& resources)
+RRMode modeOf(Display* display, const DesktopArea& desktop, XRRScreenResources& resources)
 {
-    const DesktopArea desktop = desktopArea(display);
     int x = desktop.corner.x + desktop.size.width / 2;
     int y = desktop.corner.y + desktop.size.height / 2;
     ::Window child = 0;
@@ -64,12 +61,12 @@ Nanoseconds framePeriod(const XRRModeInfo& mode)
     return period < shortestPeriod || period > longestPeriod ? usualPeriod : period;
 }
 
-Nanoseconds framePeriod(Display* display)
+Nanoseconds framePeriod(Display* display, const DesktopArea& desktop)
 {
     const Resources resources = monitorResources(display);
     if (!resources)
         return usualPeriod;
-    const RRMode current = desktopMode(display, *resources);
+    const RRMode current = modeOf(display, desktop, *resources);
     for (const XRRModeInfo& mode :
          std::span(resources->modes, static_cast<std::size_t>(resources->nmode)))
         if (mode.id == current)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/frame_clock.h"
+#include "platform/x11/desktop_area.h"
 
 #include <X11/extensions/Xrandr.h>
 
@@ -10,7 +11,7 @@ namespace platform::x11 {
 /// or says what no monitor does, as virtual ones do.
 [[nodiscard]] Nanoseconds framePeriod(const XRRModeInfo& mode);
 
-/// The same for the monitor that the desktop lies on; asks the server.
-[[nodiscard]] Nanoseconds framePeriod(Display* display);
+/// The same for the monitor that shows the middle of this area; asks the server.
+[[nodiscard]] Nanoseconds framePeriod(Display* display, const DesktopArea& desktop);
 
 } // namespace platform::x11

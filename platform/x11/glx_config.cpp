@@ -93,6 +93,14 @@ std::size_t bestFormat(std::span<const FormatTraits> formats)
     return static_cast<std::size_t>(best - formats.begin());
 }
 
+bool serves(const PIXELFORMATDESCRIPTOR& wanted)
+{
+    constexpr DWORD offered = PFD_DRAW_TO_WINDOW | PFD_SUPPORT_OPENGL | PFD_DOUBLEBUFFER;
+    return wanted.iPixelType == PFD_TYPE_RGBA && (wanted.dwFlags & ~offered) == 0 &&
+           wanted.cAlphaBits == 0 && wanted.cAccumBits == 0 && wanted.cDepthBits == 0 &&
+           wanted.cStencilBits == 0 && wanted.cAuxBuffers == 0;
+}
+
 bool chooseWindowFormat(Display* display, int screen, WindowFormat& result)
 {
     XErrorTrap trap(display);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/win32_names.h"
+
 #include <GL/glx.h>
 
 #include <cstddef>
@@ -18,6 +20,10 @@ struct WindowFormat {
 /// The best configuration for the saver's window on this screen; false when the server has no GLX
 /// 1.3 or no double-buffered TrueColor configuration that may be used. X errors are caught.
 [[nodiscard]] bool chooseWindowFormat(Display* display, int screen, WindowFormat& result);
+
+/// Whether such a configuration is what the descriptor asks for. Its colour bits are not looked at:
+/// there are never more to be had.
+[[nodiscard]] bool serves(const PIXELFORMATDESCRIPTOR& wanted);
 
 /// What the choice looks at in one configuration; every count is in bits, save `samples`.
 struct FormatTraits {

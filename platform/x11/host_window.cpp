@@ -1,8 +1,7 @@
 #include "platform/x11/host_window.h"
 
-#include "platform/desktop.h"
 #include "platform/x11/display.h"
-#include "platform/x11/window.h"
+#include "platform/x11/window_table.h"
 
 #include <array>
 #include <charconv>
@@ -41,7 +40,37 @@ void take(const char* text)
     named = windowNumber(text);
 }
 
+// An error that says that the host's window is no more, or one of ours, which go with it.
+void endWithHost(const XErrorEvent& error)
+{
+    const bool noSuchWindow = error.error_code == BadWindow || error.error_code == BadDrawable;
+    if (adopted && noSuchWindow &&
+        (error.resourceid == hostWindow() || findRecord(error.resourceid) != nullptr))
+        _exit(0);
+}
+
+void resizeWindows(Display* display, desktop::Size size)
+{
+    for (const WindowRecord& record : windowRecords())
+        if (record.id != 0)
+            XResizeWindow(display, record.id, static_cast<unsigned int>(size.width),
+                          static_cast<unsigned int>(size.height));
+}
+
 } // namespace
+
+void chooseHostWindow(int argumentCount, const char* const* arguments)
+{
+    given.fill('\0');
+    named = noWindow;
+    for (int i = 1; i < argumentCount && named == noWindow; ++i)
+        if (std::string_view(arguments[i]) == "--window-id")
+            take(i + 1 < argumentCount && *arguments[i + 1] != '\0' ? arguments[i + 1]
+                                                                    : "an empty --window-id");
+    const char* const fromEnvironment = std::getenv("XSCREENSAVER_WINDOW");
+    if (named == noWindow && fromEnvironment != nullptr && *fromEnvironment != '\0')
+        take(fromEnvironment);
+}
 
 bool hosted()
 {
@@ -55,7 +84,7 @@ bool hosted()
 
 void adoptHost(Display* display)
 {
-    if (!hosted())
+    if (!hosted() || adopted)
         return;
     XErrorTrap trap(display);
     // Its size and its end. Only these: of most input there can be one listener, and it is the
@@ -66,13 +95,12 @@ void adoptHost(Display* display)
         std::exit(1);
     }
     adopted = true;
+    observeErrors(endWithHost);
 }
 
-bool meansHostIsGone(const XErrorEvent& error)
+void releaseHost()
 {
-    const bool noSuchWindow = error.error_code == BadWindow || error.error_code == BadDrawable;
-    return adopted && noSuchWindow &&
-           (error.resourceid == hostWindow() || findWindow(error.resourceid) != nullptr);
+    adopted = false;
 }
 
 bool followHost(const XEvent& event)
@@ -82,24 +110,8 @@ bool followHost(const XEvent& event)
     if (event.type == DestroyNotify)
         _exit(0);
     if (event.type == ConfigureNotify)
-        fillHost(event.xany.display, {event.xconfigure.width, event.xconfigure.height});
+        resizeWindows(event.xany.display, {event.xconfigure.width, event.xconfigure.height});
     return true;
 }
 
 } // namespace platform::x11
-
-bool platform::desktop::chooseHost(int argumentCount, const char* const* arguments)
-{
-    using namespace platform::x11;
-    given.fill('\0');
-    named = noWindow;
-    adopted = false;
-    for (int i = 1; i < argumentCount && named == noWindow; ++i)
-        if (std::string_view(arguments[i]) == "--window-id")
-            take(i + 1 < argumentCount && *arguments[i + 1] != '\0' ? arguments[i + 1]
-                                                                    : "an empty --window-id");
-    const char* const fromEnvironment = std::getenv("XSCREENSAVER_WINDOW");
-    if (named == noWindow && fromEnvironment != nullptr && *fromEnvironment != '\0')
-        take(fromEnvironment);
-    return hosted();
-}

@@ -1,10 +1,10 @@
-#include "platform/desktop.h"
+#include "platform/x11/message_dialog.h"
+
 #include "platform/x11/deferred_events.h"
 #include "platform/x11/display.h"
-#include "platform/x11/host_window.h"
 #include "platform/x11/pointer.h"
-#include "platform/x11/window.h"
 #include "platform/x11/window_manager.h"
+#include "platform/x11/window_table.h"
 
 #include <FL/Fl.H>
 #include <FL/Fl_Box.H>
@@ -15,8 +15,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
-#include <string>
 #include <utility>
 
 namespace platform::x11 {
@@ -35,6 +33,15 @@ constexpr std::array<Icon, 2> icons = {{
     {MB_ICONINFORMATION, "i", 41, 98, 181},
 }};
 
+// One of our windows that has been shown; 0 when there is none.
+::Window shownWindow()
+{
+    const auto records = windowRecords();
+    const auto found = std::find_if(records.begin(), records.end(),
+                                    [](const WindowRecord& record) { return record.shown; });
+    return found == records.end() ? 0 : found->id;
+}
+
 // In front of a window that is always on top, as the saver's is, and with the keyboard.
 class TopmostWindow : public Fl_Window {
 public:
@@ -45,10 +52,7 @@ public:
     {
         if (!seen)
             return;
-        if (managerRuns(fl_display))
-            requestActivation(fl_display, fl_xid(this));
-        else
-            XSetInputFocus(fl_display, fl_xid(this), RevertToPointerRoot, CurrentTime);
+        giveKeyboard(fl_display, fl_xid(this));
         XFlush(fl_display);
     }
 
@@ -145,8 +149,8 @@ public:
     // Returns when the box is closed, by whatever.
     void run(int endDescriptor)
     {
-        const VisiblePointer pointer;
-        const int saversDescriptor = ConnectionNumber(openConnection());
+        const VisiblePointer pointer(connection());
+        const int saversDescriptor = ConnectionNumber(connection());
         watch(saversDescriptor, [](int, void* box) { static_cast<MessageDialog*>(box)->attend(); });
         if (endDescriptor >= 0)
             watch(endDescriptor,
@@ -189,7 +193,7 @@ private:
         sign.labelsize(letter);
     }
 
-    DeferredEvents saversEvents{openConnection()};
+    DeferredEvents saversEvents{connection()};
     TopmostWindow window;
     Fl_Box sign;
     PlainText message;
@@ -209,26 +213,15 @@ bool openToolkit()
     return display != nullptr;
 }
 
-void printLine(std::string text)
-{
-    std::replace(text.begin(), text.end(), '\n', ' ');
-    std::fprintf(stderr, "%s\n", text.c_str());
-}
-
 } // namespace
 
-} // namespace platform::x11
-
-void platform::desktop::messageBox(const char* text, const char* caption, UINT type,
-                                   int endDescriptor)
+bool runMessageDialog(const char* text, const char* caption, UINT type, int endDescriptor)
 {
-    using namespace platform::x11;
-    if (hosted())
-        return printLine(text);
-    if (connection() == nullptr || !openToolkit()) {
-        std::fprintf(stderr, "%s\n", text);
-        return;
-    }
+    if (!openToolkit())
+        return false;
     MessageDialog(layoutOf(text), text, caption, type).run(endDescriptor);
     XFlush(fl_display);
+    return true;
 }
+
+} // namespace platform::x11

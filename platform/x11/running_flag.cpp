@@ -1,24 +1,19 @@
-#include "platform/desktop.h"
+#include "platform/x11/running_flag.h"
+
 #include "platform/x11/display.h"
-#include "platform/x11/host_window.h"
 
 namespace platform::x11 {
 
 namespace {
 
-// Never shown. The server takes it, and the selection with it, when this process ends in any way.
+// The flag is the ownership of a selection by a window that is never shown: both go with us.
 constinit ::Window selectionOwner = 0;
 
 } // namespace
 
-} // namespace platform::x11
-
-// Says so and no more: the desktop's own locking and power saving go on.
-void platform::desktop::setScreenSaverRunning(bool running)
+void setRunningFlag(Display* display, bool running)
 {
-    using namespace platform::x11;
-    Display* const display = openConnection();
-    if (display == nullptr || hosted() || running == (selectionOwner != 0))
+    if (running == (selectionOwner != 0))
         return;
     if (running) {
         selectionOwner =
@@ -32,3 +27,5 @@ void platform::desktop::setScreenSaverRunning(bool running)
     }
     XFlush(display);
 }
+
+} // namespace platform::x11

@@ -121,8 +121,12 @@ void requestCover(Display* display, ::Window window)
                    static_cast<long>(atom(AtomName::netWmStateFullscreen)), fromApplication, 0});
 }
 
-void requestActivation(Display* display, ::Window window)
+void giveKeyboard(Display* display, ::Window window)
 {
+    if (!managerRuns(display)) {
+        XSetInputFocus(display, window, RevertToPointerRoot, CurrentTime);
+        return;
+    }
     constexpr long fromApplication = 1;
     sendToManager(display, window, AtomName::netActiveWindow,
                   {fromApplication, CurrentTime, 0, 0, 0});

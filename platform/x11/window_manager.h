@@ -15,8 +15,9 @@ void describeWindow(Display* display, ::Window window, const char* title);
 /// Wishes for a shown window what describeWindow wished for it before.
 void requestCover(Display* display, ::Window window);
 
-/// Asks the manager to bring the window forward with the keyboard's focus.
-void requestActivation(Display* display, ::Window window);
+/// Gives a shown window the keyboard's focus: asks the manager to bring it forward with it, or
+/// takes it where no manager runs.
+void giveKeyboard(Display* display, ::Window window);
 
 /// The protocol of WM_PROTOCOLS that the manager speaks to a window with this event; 0 when it is
 /// another event.

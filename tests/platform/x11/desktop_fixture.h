@@ -49,7 +49,7 @@ protected:
     {
         using namespace platform::x11;
         manager.emplace(std::vector<std::string>{QUAZO_OPENBOX, "--sm-disable"});
-        EXPECT_TRUE(User::waitUntil([] { return managerRuns(connection()); }));
+        EXPECT_TRUE(User::waitUntil([] { return managerRuns(openConnection()); }));
     }
 
     VirtualDisplay display{"1024x768x24"};

@@ -35,7 +35,7 @@ bool makesNoContext(const char* screen, int format)
 
 } // namespace
 
-TEST(GlxContextDeathTest, MakesDoWithWhatTheDriverHas)
+TEST(ContextsDeathTest, MakeDoWithWhatTheDriverHas)
 {
     // A driver reads its environment once in the life of a process.
     GTEST_FLAG_SET(death_test_style, "threadsafe");

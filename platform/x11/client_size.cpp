@@ -1,0 +1,18 @@
+#include "platform/x11/client_size.h"
+
+#include "platform/x11/contexts.h"
+#include "platform/x11/desktop_area.h"
+
+namespace platform::x11 {
+
+void updateClientSize(Display* display, WindowRecord& record)
+{
+    const desktop::Size size = sizeOf(display, record.id);
+    if (size == desktop::Size{} || size == record.client)
+        return;
+    record.client = size;
+    record.sizeIsToTell = true;
+    fitPicture(record);
+}
+
+} // namespace platform::x11

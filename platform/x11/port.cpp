@@ -1,0 +1,276 @@
+#include "platform/desktop.h"
+#include "platform/frame_clock.h"
+#include "platform/x11/client_size.h"
+#include "platform/x11/contexts.h"
+#include "platform/x11/desktop_area.h"
+#include "platform/x11/display.h"
+#include "platform/x11/events.h"
+#include "platform/x11/frame_pace.h"
+#include "platform/x11/host_window.h"
+#include "platform/x11/message_dialog.h"
+#include "platform/x11/pointer.h"
+#include "platform/x11/running_flag.h"
+#include "platform/x11/swap_interval.h"
+#include "platform/x11/window_manager.h"
+#include "platform/x11/window_table.h"
+
+#include <GL/glx.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+
+// The port's functions on X11. What a host's window changes is decided here.
+
+namespace platform::x11 {
+
+namespace {
+
+constinit FrameClock frameClock;
+
+// In a host's window nothing of the input is ours: it goes on to the host.
+constexpr long hostedEvents = StructureNotifyMask;
+constexpr long ownEvents = StructureNotifyMask | PropertyChangeMask | FocusChangeMask |
+                           KeyPressMask | KeyReleaseMask | ButtonPressMask | ButtonReleaseMask |
+                           PointerMotionMask | EnterWindowMask;
+
+Display* connected()
+{
+    Display* const display = openConnection();
+    if (display != nullptr)
+        adoptHost(display);
+    return display;
+}
+
+DesktopArea desktopArea(Display* display)
+{
+    return hosted() ? areaOf(display, hostWindow()) : primaryMonitor(display);
+}
+
+// A window is made for one format and knows no other.
+constexpr int onlyFormat = 1;
+
+// The record of a window that OpenGL can draw on; null for any other.
+WindowRecord* findDrawable(desktop::NativeWindow window)
+{
+    WindowRecord* const record = findRecord(window);
+    return record != nullptr && record->format.config != nullptr ? record : nullptr;
+}
+
+void setPace(Display* display, ::Window window)
+{
+    const Nanoseconds period = framePeriod(display, desktopArea(display));
+    // Where a swap waits for the refresh as well, our clock runs a little fast: were it the slower
+    // of the two, every now and then a frame would miss its refresh.
+    const Nanoseconds lead = setSwapInterval(display, window) ? period / 1000 : 0;
+    frameClock.setPeriod(period - lead);
+}
+
+void printInOneLine(std::string text)
+{
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    std::fprintf(stderr, "%s\n", text.c_str());
+}
+
+} // namespace
+
+} // namespace platform::x11
+
+namespace platform::desktop {
+
+using namespace platform::x11;
+
+bool chooseHost(int argumentCount, const char* const* arguments)
+{
+    chooseHostWindow(argumentCount, arguments);
+    return hosted();
+}
+
+bool size(Size& result)
+{
+    Display* const display = connected();
+    if (display == nullptr)
+        return false;
+    result = desktopArea(display).size;
+    return true;
+}
+
+bool pointerPosition(POINT& result)
+{
+    Display* const display = connected();
+    if (display == nullptr)
+        return false;
+    const DesktopArea area = desktopArea(display);
+    ::Window root = 0, child = 0;
+    int rootX = 0, rootY = 0, x = 0, y = 0;
+    unsigned int buttons = 0;
+    if (XQueryPointer(display, area.parent, &root, &child, &rootX, &rootY, &x, &y, &buttons) ==
+        False)
+        return false; // it is on another screen
+    result = {x - area.corner.x, y - area.corner.y};
+    return true;
+}
+
+bool nextMessage(Message& result)
+{
+    return connection() != nullptr && x11::nextMessage(connection(), result);
+}
+
+void disconnect()
+{
+    if (connection() != nullptr) {
+        setRunningFlag(connection(), false);
+        forgetContexts();
+    }
+    forgetWindows();
+    releaseHost();
+    closeConnection();
+}
+
+NativeWindow createWindow(const char* title, int x, int y, Size client)
+{
+    Display* const display = connected();
+    if (display == nullptr)
+        return 0;
+    XErrorTrap trap(display);
+    const DesktopArea area = desktopArea(display);
+    const POINT place{area.corner.x + x, area.corner.y + y};
+    WindowRecord* const record =
+        hosted() ? addWindow(display, {area.parent, area.corner, area.size, hostedEvents})
+                 : addWindow(display, {area.parent, place, client, ownEvents});
+    if (record == nullptr)
+        return 0;
+    record->origin = area.corner;
+    if (!hosted())
+        describeWindow(display, record->id, title);
+    if (trap.firstError() != 0) {
+        removeWindow(display, *record);
+        return 0;
+    }
+    return record->id;
+}
+
+bool destroyWindow(NativeWindow window)
+{
+    WindowRecord* const record = findRecord(window);
+    if (record == nullptr)
+        return false;
+    removeWindow(connection(), *record);
+    return true;
+}
+
+void showWindow(NativeWindow window)
+{
+    WindowRecord* const record = findRecord(window);
+    if (record == nullptr || record->shown)
+        return;
+    record->shown = true;
+    mapWindow(connection(), window);
+}
+
+void raiseWindow(NativeWindow window)
+{
+    if (findRecord(window) != nullptr && !hosted())
+        XRaiseWindow(connection(), window);
+}
+
+void focusWindow(NativeWindow window)
+{
+    if (findRecord(window) != nullptr && !hosted())
+        giveKeyboard(connection(), window);
+}
+
+bool placeWindow(NativeWindow window, int x, int y, Size client, bool topmost)
+{
+    WindowRecord* const record = findRecord(window);
+    if (record == nullptr)
+        return false;
+    record->sizeIsToTell = true; // the manager or the host may have given it another
+    if (hosted())
+        return true;
+    Display* const display = connection();
+    const DesktopArea area = desktopArea(display);
+    record->origin = area.corner;
+    XMoveResizeWindow(display, window, area.corner.x + x, area.corner.y + y,
+                      static_cast<unsigned int>(client.width),
+                      static_cast<unsigned int>(client.height));
+    if (topmost) {
+        XRaiseWindow(display, window);
+        requestCover(display, window);
+    }
+    updateClientSize(display, *record);
+    return true;
+}
+
+void showPointer(NativeWindow window, bool visible)
+{
+    WindowRecord* const record = findRecord(window);
+    if (record != nullptr && !hosted())
+        hidePointer(connection(), *record, !visible);
+}
+
+int choosePixelFormat(NativeWindow window, const PIXELFORMATDESCRIPTOR& descriptor)
+{
+    return findDrawable(window) != nullptr && serves(descriptor) ? onlyFormat : 0;
+}
+
+bool setPixelFormat(NativeWindow window, int format)
+{
+    return findDrawable(window) != nullptr && format == onlyFormat;
+}
+
+NativeContext createContext(NativeWindow window)
+{
+    const WindowRecord* const record = findDrawable(window);
+    return record == nullptr ? nullptr : addContext(*record);
+}
+
+bool makeCurrent(NativeWindow window, NativeContext context)
+{
+    if (context == nullptr)
+        return leaveContext();
+    const WindowRecord* const record = findRecord(window);
+    if (record == nullptr || !selectContext(context, *record))
+        return false;
+    setPace(connection(), window);
+    return true;
+}
+
+bool deleteContext(NativeContext context)
+{
+    return removeContext(context);
+}
+
+bool swapBuffers(NativeWindow window)
+{
+    const WindowRecord* const record = findRecord(window);
+    if (record == nullptr)
+        return false;
+    presentPicture(*record);
+    frameClock.awaitNextFrame();
+    glXSwapBuffers(connection(), window);
+    return true;
+}
+
+PROC glProcedure(const char* name)
+{
+    if (!anyContextIsCurrent())
+        return nullptr;
+    return reinterpret_cast<PROC>(glXGetProcAddressARB(reinterpret_cast<const GLubyte*>(name)));
+}
+
+void messageBox(const char* text, const char* caption, UINT type, int endDescriptor)
+{
+    if (hosted())
+        printInOneLine(text);
+    else if (connected() == nullptr || !runMessageDialog(text, caption, type, endDescriptor))
+        std::fprintf(stderr, "%s\n", text);
+}
+
+void setScreenSaverRunning(bool running)
+{
+    if (connection() != nullptr && !hosted())
+        setRunningFlag(connection(), running);
+}
+
+} // namespace platform::desktop

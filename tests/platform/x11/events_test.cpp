@@ -1,0 +1,37 @@
+#include "tests/platform/x11/desktop_fixture.h"
+
+#include <X11/keysym.h>
+#include <X11/XKBlib.h>
+
+using namespace platform::desktop;
+
+using Events = DesktopFixture;
+
+TEST_F(Events, ShowAHeldKeyAsHeld)
+{
+    open();
+    // Also on a server that sends a release before every repeated press.
+    for (const Bool detectable : {True, False}) {
+        XkbSetDetectableAutoRepeat(platform::x11::connection(), detectable, nullptr);
+        user.hold(XK_Tab, true);
+        for (int repeats = 0; repeats < 4; ++repeats)
+            EXPECT_EQ(next(WM_KEYDOWN, WM_KEYUP).message, WM_KEYDOWN);
+        user.hold(XK_Tab, false);
+        EXPECT_EQ(next(WM_KEYUP).wParam, 0x09U);
+    }
+}
+
+TEST_F(Events, TellNoActivationByAGrabOrAFocusThatIsAnothers)
+{
+    open();
+    EXPECT_EQ(next(WM_ACTIVATE).wParam, WA_ACTIVE);
+    user.moveTo(9, 9);
+    XGrabKeyboard(server, DefaultRootWindow(server), 0, GrabModeAsync, GrabModeAsync, CurrentTime);
+    XUngrabKeyboard(server, CurrentTime);
+    user.press(XK_a);
+    EXPECT_EQ(next(WM_ACTIVATE, WM_KEYDOWN).message, WM_KEYDOWN);
+    XSetInputFocus(server, PointerRoot, RevertToNone, CurrentTime);
+    user.press(XK_b);                                              // comes by the pointer
+    EXPECT_EQ(next(WM_ACTIVATE, WM_KEYDOWN).message, WM_ACTIVATE); // the focus is lost
+    EXPECT_EQ(next(WM_ACTIVATE, WM_KEYDOWN).message, WM_KEYDOWN);
+}
