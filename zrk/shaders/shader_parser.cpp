@@ -16,6 +16,7 @@ namespace zrk {
 
 namespace {
 
+// The flag is set here as well as by `Shader::addLayer`, which has none for multitexture layers.
 struct LayerParser {
     Keyword keyword;
     ShaderResult (*parse)(Shader& shader, LineTokens& line);
@@ -28,11 +29,6 @@ constexpr LayerParser layerParsers[] = {
     {Keyword::blend, parseBlendLayer, &Shader::hasBlend},
     {Keyword::color, parseColorLayer, &Shader::hasColor},
 };
-
-bool holdsClosingBrace(const char* text)
-{
-    return std::strchr(text, '}') != nullptr;
-}
 
 bool skipOpeningBrace(std::FILE* file)
 {
@@ -47,10 +43,10 @@ void skipBlanks(std::FILE* file)
     int character = readCharacter(file);
     while (character == ' ' || character == '\n')
         character = readCharacter(file);
-    std::ungetc(character, file); // the end of the file stays where it is
+    std::ungetc(character, file); // does nothing with EOF
 }
 
-/// A line of any other kind means nothing.
+/// Ignores a line of any other kind.
 ShaderResult parseLayer(Shader& shader, const char* kind, LineTokens& line)
 {
     for (const LayerParser& parser : layerParsers) {
@@ -71,7 +67,8 @@ ShaderResult parseShader(Shader& shader, std::FILE* file)
     char* const line = lineBuffer().data();
     if (!readLine(file, lineBuffer()))
         return ShaderResult::nothingToLoad;
-    bool closed = holdsClosingBrace(line); // counts where the file ends right after the "{"
+    // A brace anywhere in the name line closes the block only if the file ends right after the "{".
+    bool closed = std::strchr(line, '}') != nullptr;
     line[std::strcspn(line, " \n")] = '\0';
     shader.name = line;
     if (!skipOpeningBrace(file))
@@ -79,16 +76,19 @@ ShaderResult parseShader(Shader& shader, std::FILE* file)
     skipBlanks(file);
 
     while (readLine(file, lineBuffer())) {
+        const char* const brace = std::strchr(line, '}'); // before the tokenizer cuts the line
         LineTokens tokens(line);
-        const char* kind = tokens.next(" :,\n");
+        const char* const kind = tokens.next(" :,\n");
         closed = false;
         if (kind == nullptr)
             continue;
+        // Only a brace in the first token closes the block; one behind a layer's parameters is
+        // text.
+        closed = brace != nullptr && brace < kind + std::strlen(kind);
         const ShaderResult result = parseLayer(shader, kind, tokens);
         if (result != ShaderResult::ok)
             return result;
-        // The end of the first token ends the text: a brace further on is not seen.
-        if (holdsClosingBrace(line))
+        if (closed)
             return shader.layers().empty() ? ShaderResult::emptyShader : ShaderResult::ok;
     }
     if (std::feof(file) == 0)

@@ -16,7 +16,8 @@ class Shader;
 ///       blend: one, one
 ///     }
 ///
-/// A failure keeps the name and the layers of the lines before. Works in the `lineBuffer`.
+/// After a failure the shader keeps its name and the layers of earlier lines. Overwrites the
+/// `lineBuffer`.
 [[nodiscard]] ShaderResult parseShader(Shader& shader, std::FILE* file);
 
 } // namespace zrk
