@@ -9,7 +9,7 @@ char* LineTokens::next(const char* delimiters)
     char* const token = rest + std::strspn(rest, delimiters);
     rest = token + std::strcspn(token, delimiters);
     if (rest == token)
-        return nullptr;
+        return nullptr; // `rest` stays on the terminator: later calls find nothing either
     if (*rest != '\0')
         *rest++ = '\0';
     return token;

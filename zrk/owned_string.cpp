@@ -27,6 +27,7 @@ String& String::operator=(const char* text)
 {
     if (text == nullptr)
         text = "";
+    // Copied before the old array is freed, in which `text` may lie.
     const std::uint32_t newSize = bytesOf(text);
     std::unique_ptr<char[]> copy = newArray<char>(newSize);
     std::memcpy(copy.get(), text, newSize);
@@ -39,7 +40,7 @@ String& String::operator+=(const char* text)
 {
     if (text == nullptr)
         return *this = "";
-    const std::uint32_t added = bytesOf(text);
+    const std::uint32_t added = bytesOf(text); // counts a terminator, as `size` does
     std::unique_ptr<char[]> both = newArray<char>(size - 1 + added);
     std::memcpy(both.get(), data.get(), size - 1);
     std::memcpy(both.get() + size - 1, text, added);

@@ -54,7 +54,7 @@ bool readLine(std::FILE* file, std::span<char> line)
         character = readCharacter(file);
         if (character == EOF) {
             if (std::ferror(file) != 0)
-                length = 0;
+                length = 0; // as fgets: what was read before the error is no line
             break;
         }
         line[length++] = static_cast<char>(character);

@@ -9,8 +9,8 @@ namespace zrk {
 class LineTokens;
 class Shader;
 
-/// How drawn fragments and the picture are combined. Blending itself is switched by
-/// `Shader::apply`.
+/// The blend function: how a fragment's colour and the picture's are combined. `Shader::apply`
+/// enables and disables blending itself.
 class BlendLayer : public ShaderLayer {
 public:
     GLenum srcFactor = GL_ONE;
@@ -25,7 +25,7 @@ public:
     LayerKind kind() const override { return LayerKind::blend; }
 };
 
-/// Adds the layer that the rest of `line` describes; a bad line adds nothing.
+/// Adds the layer described by the rest of `line`. A faulty line adds nothing.
 [[nodiscard]] ShaderResult parseBlendLayer(Shader& shader, LineTokens& line);
 
 } // namespace zrk

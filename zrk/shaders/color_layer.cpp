@@ -28,6 +28,7 @@ void ColorLayer::reapply()
     apply();
 }
 
+// Meant: the current colour may be one that the shell has set since.
 void ColorLayer::readBack() {}
 
 void ColorLayer::toText(String& out) const

@@ -12,8 +12,8 @@ namespace zrk {
 class LineTokens;
 class Shader;
 
-/// A current colour, which tints what is drawn. `Shader::apply` makes it white again for the next
-/// shader without one.
+/// OpenGL's current colour, which tints what is drawn. `Shader::apply` resets it to white for the
+/// next shader without a color layer.
 class ColorLayer : public ShaderLayer {
 public:
     /// Red, green, blue and alpha.
@@ -30,13 +30,13 @@ public:
     void resolve(const TexturePool& pool) override;
     LayerKind kind() const override { return LayerKind::color; }
 
-    /// Takes `other`'s values into its own array.
+    /// Copies `other`'s values.
     virtual void assign(const ColorLayer& other);
 
     std::span<GLfloat, 4> values() const { return std::span<GLfloat, 4>(rgba.get(), 4); }
 };
 
-/// Adds the layer that the rest of `line` describes; a bad line adds nothing.
+/// Adds the layer described by the rest of `line`. A faulty line adds nothing.
 [[nodiscard]] ShaderResult parseColorLayer(Shader& shader, LineTokens& line);
 
 } // namespace zrk

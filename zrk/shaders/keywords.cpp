@@ -8,7 +8,7 @@ namespace zrk {
 
 namespace {
 
-// In the order of Keyword.
+// Indexed by Keyword.
 constexpr const char* words[] = {
     "texture",
     "nearest",
@@ -55,6 +55,8 @@ bool isWord(const char* text, Keyword keyword)
 {
     return std::strcmp(text, wordOf(keyword)) == 0;
 }
+
+// Linear searches: no list has more than nine words.
 
 std::optional<GLenum> valueFor(std::span<const WordValue> accepted, const char* text)
 {

@@ -8,7 +8,7 @@
 
 namespace zrk {
 
-/// The words of a shaders pool file. "blend" stands twice: an environment mode and a layer.
+/// The words of a shaders pool file. "blend" has two entries: the environment mode and the layer.
 enum class Keyword : std::uint8_t {
     texture,
     nearest,
@@ -36,31 +36,32 @@ enum class Keyword : std::uint8_t {
     srcAlphaSaturate,
     srcColor,
     oneMinusSrcColor,
-    boolWord, ///< This and the next two are reserved: no layer has them.
+    boolWord, ///< Reserved, like the next two: no layer accepts them.
     trueWord,
     falseWord,
     multitexture,
     color,
 };
 
+/// The word as it is written in the file.
 const char* wordOf(Keyword keyword);
 
-/// Upper and lower case are different words.
+/// Exact comparison, case included.
 bool isWord(const char* text, Keyword keyword);
 
-/// A word that a position in a line accepts, and what OpenGL calls it there.
+/// A word that a parameter accepts, and its OpenGL value.
 struct WordValue {
     Keyword keyword;
     GLenum value;
 };
 
-/// The value of `text` where `accepted` are the words; none for any other text.
+/// The value of `text`, or none if it is not among the `accepted` words.
 std::optional<GLenum> valueFor(std::span<const WordValue> accepted, const char* text);
 
-/// The word for `value` where `accepted` are the words; null for a value without one.
+/// The `accepted` word for `value`, or null if there is none.
 const char* wordFor(std::span<const WordValue> accepted, GLenum value);
 
-// What each position accepts; reading and writing share the lists.
+// The words of each parameter. Reading and writing share these tables.
 
 inline constexpr WordValue minFilterWords[] = {
     {Keyword::nearest, GL_NEAREST},

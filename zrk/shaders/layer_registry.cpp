@@ -16,7 +16,8 @@ LayerRegistry::LayerRegistry() = default;
 
 LayerRegistry::~LayerRegistry()
 {
-    // One at a time: a chain that frees itself would recurse as deep as it is long.
+    // Iteratively: destroying the head would destroy its successor recursively, one stack frame per
+    // layer.
     while (head)
         head = std::move(head->next);
 }

@@ -7,8 +7,8 @@ namespace zrk {
 
 class ShaderLayer;
 
-/// Owns every layer that was ever added to a shader, so that shaders may share them; a list in the
-/// order of adding. The layers die with it, first to last.
+/// Owns every layer ever added to a shader, so that copied shaders can share layers. A linked list
+/// in the order of adding; the destructor deletes the layers in that order.
 class LayerRegistry {
 public:
     LayerRegistry();
@@ -16,7 +16,7 @@ public:
     LayerRegistry& operator=(const LayerRegistry&) = delete;
     ~LayerRegistry();
 
-    /// No memory is `Cexception`, and the layer is deleted.
+    /// Throws `Cexception` without memory; the layer is deleted then.
     void add(std::unique_ptr<ShaderLayer> layer);
 
     std::uint32_t count() const { return nodeCount; }

@@ -25,7 +25,7 @@ LayerText& LayerText::integer(std::int32_t value)
 LayerText& LayerText::word(std::span<const WordValue> accepted, GLenum value)
 {
     if (wordFor(accepted, value) == nullptr)
-        return *this;
+        return *this; // and no separator
     return lastWord(accepted, value).separator();
 }
 
@@ -43,7 +43,7 @@ LayerText& LayerText::lastWord(std::span<const WordValue> accepted, GLenum value
 
 LayerText& LayerText::lastNumbers(std::span<const GLfloat, 4> values)
 {
-    char text[256]; // a float has 39 digits before the point at most
+    char text[256]; // 4 times at most 39 digits, sign, point and decimals
     std::snprintf(text, sizeof text, "<%.*f, %.*f, %.*f, %.*f>", decimals, double{values[0]},
                   decimals, double{values[1]}, decimals, double{values[2]}, decimals,
                   double{values[3]});

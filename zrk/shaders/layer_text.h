@@ -9,16 +9,16 @@ namespace zrk {
 
 class String;
 
-/// Decimals of a colour: in a layer's printed line, and in the texture kinds' `toText`.
+/// Decimals of a colour: in `write` and most `toText`, and in `toText` of the texture layers.
 inline constexpr int printedDecimals = 6;
 inline constexpr int textDecimals = 4;
 
-/// Writes a layer's line, the way back of `ParameterReader`. Every parameter ends with ", " but
-/// the last one, and a value without a word is left out, separator and all.
+/// Builds the text of a layer's line, the inverse of `ParameterReader`. Every parameter but the
+/// last is followed by ", ". A value without a word is left out together with its separator.
 class LayerText {
 public:
-    /// Replaces `text`, which is borrowed, by the keyword `layer` and its colon. Numbers get
-    /// `decimalCount` digits after the point.
+    /// Replaces `text`, which is borrowed, by the keyword `layer` and a colon. Colours are printed
+    /// with `decimalCount` digits after the point.
     LayerText(String& text, Keyword layer, int decimalCount = printedDecimals);
 
     LayerText& integer(std::int32_t value);

@@ -4,11 +4,12 @@
 
 namespace zrk {
 
-/// Where the parser puts the line that it works on: 16384 bytes, the terminator included, for
-/// the whole process. `makeLineBuffer` comes first.
+/// The line that the parser works on: 16384 bytes including the terminator, one for the whole
+/// process. Call `makeLineBuffer` before.
 std::span<char> lineBuffer();
 
-/// Allocates the line buffer, once; it is never freed. No memory is `Cexception`.
+/// Allocates the line buffer at the first call; it is never freed. Throws `Cexception` without
+/// memory.
 void makeLineBuffer();
 
 } // namespace zrk

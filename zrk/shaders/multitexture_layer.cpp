@@ -26,7 +26,7 @@ MultitextureLayer::MultitextureLayer(const MultitextureLayer& other) : ShaderLay
 
 void MultitextureLayer::apply()
 {
-    // Downward, so that unit 0 is the one left selected by the first time.
+    // Downward, so that the first call leaves unit 0 selected, as texture layers expect.
     for (std::uint32_t unit = enableUnits(); unit-- > 0;) {
         const TextureState& state = stages[unit].state;
         if (prepared && isBound(unit, state.glName))
@@ -49,7 +49,7 @@ void MultitextureLayer::reapply()
         renderer.selectUnit(unit);
         sendTextureState(stages[unit].state);
     }
-    prepared = true; // the cache of bound names is apply's alone
+    prepared = true; // the cache of bound names belongs to `apply`
     renderer.noteUnitsSwitched();
 }
 
@@ -92,7 +92,7 @@ void MultitextureLayer::assign(const MultitextureLayer& other)
 std::uint32_t MultitextureLayer::enableUnits() const
 {
     const std::uint32_t shown = shownStages(stageCount);
-    // A second unit whose stage is left out would show what somebody else has bound there.
+    // With stages left out, unit 1 would show whatever texture was bound there before.
     const bool both = shown == stageCount || !renderer.multitextureAvailable;
     setTextureUnits(both ? 3 : 1);
     return shown;
@@ -121,6 +121,7 @@ ShaderResult parseMultitextureLayer(Shader& shader, LineTokens& line)
     if (count < 0 || count > static_cast<std::int32_t>(maxStages))
         return ShaderResult::unknownParameter;
 
+    // The shader gets a copy once the whole line is read: the registry cannot give a layer back.
     MultitextureLayer working(static_cast<std::uint32_t>(count));
     for (TextureStage& stage : std::span(working.stages.get(), working.stageCount)) {
         const ShaderResult result = readTextureState(line, stage.index, stage.state);

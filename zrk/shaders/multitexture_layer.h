@@ -12,31 +12,31 @@ namespace zrk {
 class LineTokens;
 class Shader;
 
-/// What one unit shows: a texture's position in the `TexturePool`, and its state.
+/// One texture unit's part: the texture's position in the `TexturePool`, and its state.
 struct TextureStage {
     std::int32_t index = 0;
     TextureState state;
 };
 
-/// Several textures at once, stage i on unit i. With fewer units than stages, as without
-/// multitexture, stage 0 is all that is applied.
+/// Several textures at once, stage i on unit i. If the driver has fewer units than the layer has
+/// stages, only stage 0 is applied.
 class MultitextureLayer : public ShaderLayer {
 public:
-    bool prepared = false; ///< The whole state has been set once.
+    bool prepared = false; ///< `apply` or `reapply` has set the whole state once.
     std::unique_ptr<TextureStage[]> stages;
     std::uint32_t stageCount = 0;
 
-    /// A layer of `count` new stages, 4 at most.
+    /// A layer of `count` default stages, at most `maxStages`.
     explicit MultitextureLayer(std::uint32_t count);
     MultitextureLayer(const MultitextureLayer& other);
 
-    /// Ends with unit 0 selected the first time, later with the lowest unit that needed a bind.
+    /// The first call leaves unit 0 selected, later calls the lowest unit that needed a bind.
     void apply() override;
 
-    /// Ends with the last stage's unit selected.
+    /// Leaves the last stage's unit selected.
     void reapply() override;
 
-    /// Reads every stage through whichever unit is selected.
+    /// Reads every stage through the unit that is selected, without selecting another.
     void readBack() override;
 
     void toText(String& out) const override;
@@ -44,18 +44,19 @@ public:
     void resolve(const TexturePool& pool) override;
     LayerKind kind() const override { return LayerKind::multitexture; }
 
-    /// Takes copies of `other`'s stages in place of its own.
+    /// Copies `other`'s stages and `prepared`. Throws `Cexception` without memory and leaves the
+    /// layer unchanged.
     virtual void assign(const MultitextureLayer& other);
 
 private:
-    /// Enables the layer's units and returns how many stages they can show.
+    /// Enables the layer's units and returns how many stages can be applied.
     std::uint32_t enableUnits() const;
 
     void describe(String& out, int decimals) const;
 };
 
-/// Adds the layer that the rest of `line` describes; a bad line adds nothing. More stages than 4
-/// or less than none are an unknown parameter.
+/// Adds the layer described by the rest of `line`. A faulty line adds nothing. A stage count below
+/// 0 or above `maxStages` is `unknownParameter`.
 [[nodiscard]] ShaderResult parseMultitextureLayer(Shader& shader, LineTokens& line);
 
 } // namespace zrk

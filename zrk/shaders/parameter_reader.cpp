@@ -14,7 +14,7 @@ constexpr const char* separators = ", \n";
 constexpr const char* numberSeparators = "<>, \n";
 
 template <typename Number, typename Wide>
-Number nearest(Wide value)
+Number clamped(Wide value)
 {
     return static_cast<Number>(std::clamp<Wide>(value, std::numeric_limits<Number>::lowest(),
                                                 std::numeric_limits<Number>::max()));
@@ -25,7 +25,7 @@ Number nearest(Wide value)
 ParameterReader& ParameterReader::integer(std::int32_t& value)
 {
     if (const char* text = parameter(separators))
-        value = nearest<std::int32_t>(std::strtoll(text, nullptr, 10));
+        value = clamped<std::int32_t>(std::strtoll(text, nullptr, 10));
     return *this;
 }
 
@@ -47,8 +47,9 @@ ParameterReader& ParameterReader::numbers(std::span<GLfloat, 4> values)
         const char* text = parameter(numberSeparators);
         if (text == nullptr)
             break;
+        // The point is a decimal point because nothing in the program calls setlocale.
         const double number = std::strtod(text, nullptr);
-        value = std::isnan(number) ? 0.0f : nearest<GLfloat>(number);
+        value = std::isnan(number) ? 0.0f : clamped<GLfloat>(number);
     }
     return *this;
 }

@@ -9,26 +9,26 @@
 
 namespace zrk {
 
-/// Reads the parameters of a layer's line in their order. The first failure sticks, and what
-/// follows it is not read: a missing parameter is `wrongParameterCount`, a word out of its place
-/// `unknownParameter`. Text that is no number reads as 0.
+/// Reads the parameters of a layer's line in order. After the first failure nothing more is read,
+/// and `result` is that failure: `wrongParameterCount` for a missing parameter, `unknownParameter`
+/// for a word that the parameter does not accept. Text that is not a number reads as 0.
 class ParameterReader {
 public:
     explicit ParameterReader(LineTokens& layerLine) : line(layerLine) {}
 
-    /// What no 32 bits hold becomes the nearest that they do.
+    /// A decimal integer, clamped to 32 bits.
     ParameterReader& integer(std::int32_t& value);
 
     ParameterReader& word(std::span<const WordValue> accepted, GLenum& value);
 
-    /// Four numbers, with or without angle brackets. OpenGL gets finite ones: what a float cannot
-    /// hold becomes the largest that it can, and "nan" is no number.
+    /// Four numbers, with or without angle brackets. Always finite: a number outside the range of
+    /// `float`, infinity included, is clamped to it, and NaN reads as 0.
     ParameterReader& numbers(std::span<GLfloat, 4> values);
 
     [[nodiscard]] ShaderResult result() const { return outcome; }
 
 private:
-    /// The next parameter; null after a failure, and when there is none, which is one.
+    /// The next token. Null after a failure, and at the end of the line, which is a failure.
     const char* parameter(const char* delimiters);
 
     LineTokens& line;

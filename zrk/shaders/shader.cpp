@@ -35,6 +35,8 @@ Shader& Shader::operator=(const Shader& other)
 LayerKind Shader::addLayer(std::unique_ptr<ShaderLayer> layer)
 {
     ShaderLayer& added = *layer;
+    // Both allocations come before any change. The registry's is the second, so that it never owns
+    // a layer which no shader lists.
     std::unique_ptr<ShaderLayer*[]> longer = newArray<ShaderLayer*>(layerCount + 1);
     std::ranges::copy(layers(), longer.get());
     longer[layerCount] = &added;
@@ -51,6 +53,8 @@ LayerKind Shader::addLayer(std::unique_ptr<ShaderLayer> layer)
 
 void Shader::apply() const
 {
+    // Blending is set every time. Colour and texturing are caches: they cost a call only if an
+    // earlier shader changed them.
     if (hasBlend)
         glEnable(GL_BLEND);
     else

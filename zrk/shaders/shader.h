@@ -11,29 +11,30 @@ namespace zrk {
 class ShaderLayer;
 enum class LayerKind : std::int32_t;
 
-/// A named list of layers. Applying it puts OpenGL into the state that its layers describe; the
-/// next shader's apply sets everything that this one controls.
+/// A named list of layers. `apply` sets the OpenGL state that they describe. Nothing undoes a
+/// shader: the next one's `apply` sets everything that this one controls.
 class Shader {
 public:
-    bool hasBlend = false;   ///< Holds a blend layer: drawing is blended.
-    bool hasTexture = false; ///< Holds a texture or multitexture layer.
-    bool hasColor = false;   ///< Holds a color layer.
+    bool hasBlend = false;   ///< It has a blend layer.
+    bool hasTexture = false; ///< It has a texture layer, or the parser added a multitexture layer.
+    bool hasColor = false;   ///< It has a color layer.
     String name;
 
-    /// The first shader of the process also makes the parser's `lineBuffer`.
+    /// The first shader of the process also allocates the parser's `lineBuffer`.
     Shader();
 
-    /// Shares the layers, which the `layerRegistry` owns, and copies everything else. No memory is
-    /// `Cexception` and leaves the shader as it was.
+    /// Shares `other`'s layers, which the `layerRegistry` owns, and copies everything else. Throws
+    /// `Cexception` without memory and leaves the shader unchanged.
     Shader& operator=(const Shader& other);
     Shader(const Shader&) = delete;
 
-    /// Puts `layer` at the end, hands it to the `layerRegistry` and sets the flag of its kind,
-    /// which is returned; the multitexture kind has none. No memory is `Cexception` and leaves the
-    /// shader as it was.
+    /// Appends `layer`, passes its ownership to the `layerRegistry`, sets the flag of its kind (the
+    /// multitexture kind has none) and returns the kind. Throws `Cexception` without memory and
+    /// leaves the shader unchanged.
     LayerKind addLayer(std::unique_ptr<ShaderLayer> layer);
 
-    /// Sets the OpenGL state of the layers, first to last. A context must be current.
+    /// Switches blending, resets colour and texturing where no layer sets them, then applies the
+    /// layers in order. A context must be current.
     void apply() const;
 
     std::span<ShaderLayer* const> layers() const { return {layerPointers.get(), layerCount}; }

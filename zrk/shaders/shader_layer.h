@@ -15,39 +15,39 @@ enum class LayerKind : std::int32_t {
     color = 6,
 };
 
-/// One piece of the OpenGL state that a shader describes. Layers are allocated singly and deleted
-/// by the `layerRegistry` alone. `apply`, `reapply` and `readBack` want a current context.
+/// One piece of the OpenGL state that a shader describes. Every layer is allocated by itself; the
+/// `layerRegistry` deletes it. `apply`, `reapply` and `readBack` need a current context.
 class ShaderLayer {
 public:
-    /// Position of the layer's texture in the `TexturePool`; 0 for kinds with another idea of it.
+    /// A texture layer's position in the `TexturePool`; the other kinds leave it 0.
     std::int32_t index = 0;
 
     ShaderLayer() = default;
     ShaderLayer& operator=(const ShaderLayer&) = delete;
     virtual ~ShaderLayer() = default;
 
-    /// Sets the layer's state, less what a cache shows to be set already.
+    /// Sets the layer's OpenGL state, skipping calls that a cache shows to be unnecessary.
     virtual void apply() = 0;
 
-    /// Sets the layer's whole state, whatever the caches show.
+    /// Sets the layer's whole OpenGL state, regardless of the caches.
     virtual void reapply() = 0;
 
     /// Fills the layer's fields from the current OpenGL state.
     virtual void readBack() = 0;
 
-    /// Replaces `out` by the layer's line in a shaders pool file.
+    /// Replaces `out` by the layer's line for a shaders pool file.
     virtual void toText(String& out) const = 0;
 
-    /// Prints the layer's line, indented by two blanks and without a line end.
+    /// Prints the layer's line, indented by two spaces and without a line end.
     virtual void write(std::FILE* out) const = 0;
 
-    /// Turns texture positions into OpenGL texture names, which are final only after the upload.
+    /// Looks up the OpenGL names of the layer's textures, which exist once `pool` is uploaded.
     virtual void resolve(const TexturePool& pool) = 0;
 
     virtual LayerKind kind() const { return LayerKind{}; }
 
 protected:
-    // A copy is a layer of its own, which starts without a texture.
+    // The index is not copied.
     ShaderLayer(const ShaderLayer&) {}
 };
 

@@ -13,13 +13,13 @@ namespace zrk {
 
 namespace {
 
-// The host's letters are not asked: what begins a shader does not depend on a locale.
+// Not std::isalpha: where a shader begins must not depend on the locale.
 bool isLetter(int character)
 {
     return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z');
 }
 
-/// Writes the message of `result` as a line of `log`, if there is one. Returns `result`.
+/// Writes the message of `result` to `log`, if there is one, and returns `result`.
 ShaderResult report(ShaderResult result, std::FILE* log)
 {
     if (log != nullptr) {
@@ -31,7 +31,7 @@ ShaderResult report(ShaderResult result, std::FILE* log)
 
 void reportCount(std::uint32_t count, std::FILE* log)
 {
-    // The line says "textures"; the number is that of the shaders.
+    // Meant: the line says "textures", the number is that of the shaders.
     std::fprintf(log, "%s, ", messageFor(ShaderResult::ok));
     std::fprintf(log, count > 1 ? "%u textures loaded\n" : "%u texture loaded\n", count);
     std::fflush(log);
@@ -77,7 +77,7 @@ ShaderResult ShaderPool::readShaders(std::FILE* file, std::FILE* log)
 Shader& ShaderPool::grow()
 {
     if (count >= capacity) {
-        // Grown one by one, a long file would copy every shader once for each that follows it.
+        // Doubled: one more at a time would copy every shader once for each that follows it.
         const std::uint32_t newCapacity = 2 * count + 1;
         std::unique_ptr<Shader[]> longer = newArray<Shader>(newCapacity);
         std::copy_n(shaders.get(), count, longer.get());

@@ -12,25 +12,26 @@ namespace zrk {
 
 class TexturePool;
 
-/// Every shader of the program, numbered from 0 in the order of the shaders pool file.
+/// All shaders, numbered from 0 in the order of their blocks in the shaders pool file.
 class ShaderPool {
 public:
     std::uint32_t count = 0;
-    std::unique_ptr<Shader[]> shaders; ///< Those from `count` on are new and not used yet.
+    std::unique_ptr<Shader[]> shaders; ///< Entries from `count` on are spare capacity.
 
-    /// The pool file of the last load that succeeded.
+    /// The file of the last successful `load`; empty before.
     String fileName;
 
     ShaderPool() = default;
     ShaderPool(const ShaderPool&) = delete;
     ShaderPool& operator=(const ShaderPool&) = delete;
 
-    /// Adds the shaders of the file `name`. After an error the shaders read so far stay, the one
-    /// that failed included; a warning keeps its shader and reading goes on. A stream that fails
-    /// between two shaders is a read error too. `log` may be null. Moves the shaders in memory.
+    /// Appends the shaders of the file `name` and returns 0 or the error that stopped the load. The
+    /// shaders read before an error stay, including the one that failed. A warning keeps its shader
+    /// and reading goes on. Messages go to `log`, which may be null. Invalidates pointers to
+    /// shaders. Throws `Cexception` without memory.
     [[nodiscard]] ShaderResult load(const char* name, std::FILE* log);
 
-    /// Lets every layer take its OpenGL texture names, once all of `textures` are uploaded.
+    /// Lets every layer look up its OpenGL texture names. `textures` must be uploaded.
     void resolve(const TexturePool& textures);
 
     Shader& operator[](std::uint32_t position) { return shaders[position]; }
@@ -39,7 +40,7 @@ public:
 private:
     ShaderResult readShaders(std::FILE* file, std::FILE* log);
 
-    /// A new empty shader at the end.
+    /// Appends an empty shader.
     Shader& grow();
 
     std::uint32_t capacity = 0;

@@ -6,7 +6,7 @@ namespace zrk {
 
 namespace {
 
-// In the order of the codes: 0 to writeError, then -1, -2.
+// In the order of the codes 0 to writeError, then -1, -2.
 constexpr const char* messages[] = {
     "ok",
     "error: missing '{'",

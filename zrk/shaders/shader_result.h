@@ -4,20 +4,20 @@
 
 namespace zrk {
 
-/// What came of reading shaders: 0 is success, a positive code stops the load, a negative one is
-/// a warning and does not.
+/// Result of reading shaders: 0 is success, a positive code is an error and stops the load, a
+/// negative code is a warning and does not.
 enum class ShaderResult : std::int32_t {
     ok = 0,
     missingOpeningBrace = 1,
     missingClosingBrace = 2,
-    readError = 3, ///< The stream failed before its end.
+    readError = 3, ///< The stream failed before the end of the file.
     unknownParameter = 4,
     wrongParameterCount = 5,
     cannotOpenFile = 6,
     cannotCloseFile = 7,
     writeError = 8,
     emptyShader = -1,
-    nothingToLoad = -2, ///< No line where a shader's name was expected.
+    nothingToLoad = -2, ///< No line could be read where a name was expected.
 };
 
 constexpr bool isError(ShaderResult result)
@@ -25,7 +25,7 @@ constexpr bool isError(ShaderResult result)
     return static_cast<std::int32_t>(result) > 0;
 }
 
-/// The text of `result` for a log, without a line end.
+/// The log message for `result`, without a line end.
 const char* messageFor(ShaderResult result);
 
 } // namespace zrk

@@ -15,7 +15,7 @@ void TextureLayer::apply()
 {
     setTextureUnits(1);
     if (!prepared)
-        sendTextureState(state);
+        sendTextureState(state); // even if the texture is bound: its parameters are not set yet
     else if (!isBound(0, state.glName))
         glBindTexture(GL_TEXTURE_2D, state.glName);
     noteBound(0, state.glName);
@@ -26,7 +26,7 @@ void TextureLayer::reapply()
 {
     setTextureUnits(1);
     sendTextureState(state);
-    prepared = true; // the cache of bound names is apply's alone
+    prepared = true; // the cache of bound names belongs to `apply`
 }
 
 void TextureLayer::readBack()

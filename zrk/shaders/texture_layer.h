@@ -9,11 +9,11 @@ namespace zrk {
 class LineTokens;
 class Shader;
 
-/// One texture on unit 0. Its environment is set by the first `apply` only; later ones leave
-/// whatever the unit has by then.
+/// One texture on unit 0. Only the first `apply` sets the unit's environment; later calls leave the
+/// environment that the unit has by then.
 class TextureLayer : public ShaderLayer {
 public:
-    bool prepared = false; ///< The whole state has been set once.
+    bool prepared = false; ///< `apply` or `reapply` has set the whole state once.
     TextureState state;
 
     void apply() override;
@@ -28,7 +28,7 @@ private:
     void describe(String& out, int decimals) const;
 };
 
-/// Adds the layer that the rest of `line` describes; a bad line adds nothing.
+/// Adds the layer described by the rest of `line`. A faulty line adds nothing.
 [[nodiscard]] ShaderResult parseTextureLayer(Shader& shader, LineTokens& line);
 
 } // namespace zrk

@@ -11,7 +11,7 @@ namespace zrk {
 
 namespace {
 
-// In the order in which OpenGL is told and asked.
+// In the order of the OpenGL calls.
 constexpr std::pair<GLenum, GLenum TextureState::*> samplingParameters[] = {
     {GL_TEXTURE_MAG_FILTER, &TextureState::magFilter},
     {GL_TEXTURE_MIN_FILTER, &TextureState::minFilter},

@@ -12,8 +12,8 @@ class LayerText;
 class LineTokens;
 class TexturePool;
 
-/// One texture as a unit shows it: the object, its sampling, and the unit's environment. Starts
-/// as OpenGL does.
+/// A texture on a unit: the texture object, its filters and wrap modes, and the unit's texture
+/// environment. The defaults are OpenGL's initial values.
 struct TextureState {
     GLuint glName = 0;
     GLenum magFilter = GL_LINEAR;
@@ -24,24 +24,24 @@ struct TextureState {
     std::array<GLfloat, 4> envColor{};
 };
 
-/// A texture's position in the `TexturePool`, then the state less its name, in the order of a
-/// layer's line: the next eleven parameters of `line`.
+/// Reads the next ten parameters of `line`: the texture's position in the `TexturePool`, two
+/// filters, two wrap modes, the environment mode, and the four numbers of the environment colour.
 [[nodiscard]] ShaderResult readTextureState(LineTokens& line, std::int32_t& index,
                                             TextureState& state);
 
-/// The parameters that `readTextureState` reads, but for the colour, which may be the line's last.
+/// Writes the same parameters except the colour, which may be the last of the line.
 void writeTextureWords(LayerText& text, std::int32_t index, const TextureState& state);
 
-/// Binds the texture to the selected unit and sets everything else. What is sampled belongs to
-/// the texture and lasts; the environment belongs to the unit.
+/// Binds the texture to the selected unit and sets the rest of the state. Filters and wrap modes
+/// belong to the texture object, the environment to the unit.
 void sendTextureState(const TextureState& state);
 
-/// Binds the texture to the selected unit and fills everything but the name from OpenGL. The
-/// cache of bound names does not learn of it.
+/// Binds the texture to the selected unit and reads everything but the name from OpenGL. Does not
+/// update the cache of bound names.
 void readBackTextureState(TextureState& state);
 
-/// Takes the name of the texture at `index`, or of the first where there is none; an empty pool
-/// changes nothing.
+/// Sets `glName` to that of the texture at `index`, or of the first texture if `index` is out of
+/// range. An empty pool changes nothing.
 void resolveTextureState(TextureState& state, std::int32_t index, const TexturePool& pool);
 
 } // namespace zrk

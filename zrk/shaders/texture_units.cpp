@@ -41,6 +41,7 @@ void switchUnits(std::uint32_t mask, std::uint32_t changed)
 
 void setTextureUnits(std::uint32_t mask)
 {
+    // The mask is noted in every case, also where 3 after 1 means the same to a single unit.
     const std::uint32_t before = glCaches.enabledUnits;
     if (renderer.multitextureAvailable)
         switchUnits(mask, mask ^ before);
@@ -62,6 +63,7 @@ std::uint32_t shownStages(std::uint32_t stageCount)
 
 bool isBound(std::uint32_t unit, GLuint glName)
 {
+    // Signed, so that -1 is no texture's name. OpenGL hands names out from 1 upwards.
     return glCaches.boundTexture[unit] == static_cast<std::int32_t>(glName);
 }
 

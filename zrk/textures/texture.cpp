@@ -23,6 +23,7 @@ struct UploadFormat {
     GLenum type;
 };
 
+// The internal format is the same enumerant as the pixel format, not a number of components.
 constexpr UploadFormat uploadFormats[] = {
     {8, GL_LUMINANCE, GL_ALPHA, GL_UNSIGNED_BYTE},
     {16, GL_RGB, GL_RGB, GL_UNSIGNED_SHORT_5_6_5},
