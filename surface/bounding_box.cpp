@@ -4,7 +4,7 @@
 
 namespace {
 
-/// The square of the way from `c` to the nearest point between `low` and `high`.
+/// The squared distance from `c` to the interval from `low` to `high`.
 float distance2(float c, float low, float high)
 {
     if (c < low)
@@ -16,6 +16,7 @@ float distance2(float c, float low, float high)
 
 } // namespace
 
+// Arvo's test: the squared distance from the centre to the box is the sum of those along the axes.
 bool BoundingBox::intersects(const Sphere& sphere) const
 {
     const Vec3& centre = sphere.centre;

@@ -11,8 +11,8 @@ struct Sphere;
 struct BoundingBox {
     std::array<Vec3, 2> corners; ///< The minimum corner, then the maximum corner.
 
-    /// The frustum plane that last rejected this box, or -1. `Frustum::classifyBox` tries it first
-    /// and keeps it up to date.
+    /// The frustum plane that last rejected this box, or -1. `Frustum::classifyBox` tests it first
+    /// and updates it.
     std::int32_t lastCullingPlane = -1;
 
     constexpr BoundingBox() = default;
@@ -23,10 +23,11 @@ struct BoundingBox {
     constexpr const Vec3& min() const { return corners[0]; }
     constexpr const Vec3& max() const { return corners[1]; }
 
-    /// Takes the place of `other` in space, and keeps its own `lastCullingPlane`.
+    /// Copies the corners of `other`; its own `lastCullingPlane` stays.
     constexpr void copyExtent(const BoundingBox& other) { corners = other.corners; }
 
-    /// True as well when the two only touch. `NearbyBalls::enterOctant` works this out for all
-    /// balls and octants of a cell at once, and must come to the same bits.
+    /// Whether the sphere meets the box; touching counts. A cell that meets a ball's sphere of
+    /// influence may still hold no surface: it is visited in vain and draws nothing.
+    /// `NearbyBalls` makes the same test for all octants of a cell at once, with the same rounding.
     bool intersects(const Sphere& sphere) const;
 };

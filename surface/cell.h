@@ -25,7 +25,7 @@ inline constexpr std::size_t edgeCount = 12;
 inline constexpr std::uint8_t allInside = 0;
 inline constexpr std::uint8_t allOutside = 255;
 
-/// For each corner 0 where it lies at the cell's minimum of x, y or z and 1 where at the maximum.
+/// Per axis, 0 for a corner at the cell's minimum and 1 for one at its maximum.
 struct CornerOffset {
     std::uint8_t x, y, z;
 };
@@ -41,8 +41,8 @@ inline constexpr std::array<CornerOffset, cornerCount> cornerOffset{{
     {0, 1, 1},
 }};
 
-/// The corners that an edge runs between. Crossings are interpolated in this direction, which
-/// decides their rounding.
+/// The corners that an edge runs between. Crossings are interpolated in this direction. The other
+/// one would round differently, so the direction is part of the picture.
 struct EdgeCorners {
     std::uint8_t from, to;
 };
@@ -73,8 +73,8 @@ struct CornerSample {
 
 using CornerSamples = std::array<CornerSample, cornerCount>;
 
-/// A cell's minimum, middle and maximum in the lanes x, y and z: the lines that its octants'
-/// corners lie on.
+/// A cell's minimum, middle and maximum, each with x, y and z in the lanes 0 to 2. The corners of
+/// the cell's octants lie on these planes.
 using GridLines = std::array<Float4, 3>;
 
 constexpr Vec3 cornerPosition(const BoundingBox& box, std::size_t corner)
@@ -83,7 +83,7 @@ constexpr Vec3 cornerPosition(const BoundingBox& box, std::size_t corner)
     return {box.corners[x].x, box.corners[y].y, box.corners[z].z};
 }
 
-/// The bits of the corners that lie outside the surface. A value that is no number is outside.
+/// The bits of the corners that lie outside the surface. NaN compares as outside.
 constexpr std::uint8_t caseIndexOf(const CornerValues& values, float threshold)
 {
     unsigned index = 0;

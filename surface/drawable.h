@@ -23,6 +23,6 @@ public:
     /// The number of the kind of object.
     virtual std::int32_t kind() = 0;
 
-    /// Makes anew whatever is derived from the settings.
+    /// Recomputes what is derived from the settings.
     virtual void rebuild() = 0;
 };

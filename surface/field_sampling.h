@@ -9,14 +9,16 @@
 #include <cstddef>
 #include <span>
 
-// The field of the nearby balls, sampled at several points at once. The polygoniser spends most of
-// its time here, so these functions are inline.
+// The field of the nearby balls, sampled at several points at once: one point per lane, so that the
+// additions within a lane keep array order. The polygoniser spends most of its time here, hence
+// inline.
 
-/// The field where a cell's lines meet: at x line a, y line b and z line e it is lane a of [b][e].
+/// The field on a cell's 3 × 3 × 3 grid: where lines a, b and e of x, y and z meet, it is lane a of
+/// [b][e].
 using Grid = std::array<std::array<Float4, 3>, 3>;
 
-/// Samples the grid of a cell that `lines` divide. The corners, which the cell's parent sampled
-/// already, come out the same bit for bit; in rows of x that are needed anyway they cost nothing.
+/// Samples the grid of a cell, a row of x at a time. The eight corners, which the cell's parent has
+/// sampled, come out with the same bits: their lanes would be idle otherwise.
 inline Grid sampleGrid(std::span<const NearbyBall> balls, const GridLines& lines)
 {
     const Float4 x{lines[0][0], lines[1][0], lines[2][0], lines[2][0]};

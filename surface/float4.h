@@ -3,12 +3,13 @@
 #include <cmath>
 #include <cstdint>
 
-/// Four floats side by side, one to a lane: arithmetic, comparison and choice go lane by lane and
-/// round as those of single floats do. Where a CPU has no such vectors the compiler takes them
-/// apart.
+/// Four floats in one SIMD register: a vector extension of GCC and clang. Arithmetic, comparison
+/// and
+/// ?: work lane by lane and round as scalar floats do. For a CPU without such registers the
+/// compiler emits scalar code.
 using Float4 __attribute__((vector_size(16))) = float;
 
-/// What comparing two Float4 yields: all bits of a lane where it is true, none where it is not.
+/// The result of comparing two Float4: all bits of a lane are set where it is true.
 using Int4 __attribute__((vector_size(16))) = std::int32_t;
 
 /// The same float in every lane.

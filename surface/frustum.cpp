@@ -31,7 +31,7 @@ std::uint8_t Frustum::classifyBox(BoundingBox& box, std::uint8_t inheritedMask) 
         return side == Side::outside;
     };
 
-    // Neighbouring boxes tend to lie outside the same plane.
+    // Plane coherency: neighbouring boxes tend to lie outside the same plane.
     const auto last = static_cast<std::size_t>(box.lastCullingPlane);
     if (box.lastCullingPlane >= 0 && (untested >> last & 1u) != 0 && rejects(last))
         return 0;
@@ -44,6 +44,8 @@ std::uint8_t Frustum::classifyBox(BoundingBox& box, std::uint8_t inheritedMask) 
     return static_cast<std::uint8_t>(contained);
 }
 
+// Distances grow with each coordinate or fall with it, rounding included, so the two selected
+// corners bound those of all points of the box.
 Frustum::Side Frustum::sideOf(const BoundingBox& box, std::size_t plane) const
 {
     const auto& [low_x, high_x, low_y, high_y, low_z, high_z] = selectors[plane];

@@ -3,6 +3,8 @@
 #include "surface/marching_cubes_tables.h"
 #include "zrk/gl.h"
 
+// Immediate mode, a vertex once for each of its triangles: the saver's stream of OpenGL calls. A
+// vertex takes the texture coordinate that is current, so that one is sent first.
 void drawLeaf(const EdgeVertices& vertices, std::uint8_t caseIndex)
 {
     glBegin(GL_TRIANGLES);

@@ -12,8 +12,9 @@ struct EdgeVertex {
     float s, t;
 };
 
-/// One vertex an edge, in edge order; those of the edges not crossed are not looked at.
+/// One vertex per edge, in edge order; those of edges that are not crossed are not read.
 using EdgeVertices = std::array<EdgeVertex, edgeCount>;
 
-/// Sends the triangles of a leaf cell to OpenGL, as one primitive, in the order of `triTable`.
+/// Sends the triangles of a leaf cell to OpenGL in immediate mode, between one begin and end, in
+/// the order of `triTable`. `caseIndex` must have a triangle.
 void drawLeaf(const EdgeVertices& vertices, std::uint8_t caseIndex);

@@ -6,6 +6,7 @@
 
 namespace {
 
+// The surface crosses the edges whose corners lie on different sides of it.
 constexpr std::array<std::uint32_t, 256> crossedEdges()
 {
     std::array<std::uint32_t, 256> table{};

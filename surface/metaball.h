@@ -3,8 +3,9 @@
 #include "surface/sphere.h"
 #include "surface/vec3.h"
 
-/// A ball's share of the field at the squared distance `d2` from its centre: (1 - d²/R²)² within
-/// its radius, nothing from there on. For floats, and for Float4 lane by lane: both round alike.
+/// A ball's share of the field at the squared distance `d2` from its centre: the quartic kernel
+/// (1 - d²/R²)² within the radius R, 0 from there on. With s = d²/2R² that is 4(s² - s + 1/4).
+/// Works on floats, and on Float4 lane by lane with the same rounding.
 template <typename Real>
 constexpr Real fieldShare(Real falloff, Real d2)
 {
@@ -12,12 +13,13 @@ constexpr Real fieldShare(Real falloff, Real d2)
     return s >= 0.5f ? Real{} : 4.0f * (s * s - s + 0.25f);
 }
 
-/// One source of the field: 1 at its centre, falling smoothly to 0 at its radius.
+/// One source of the field: 1 at its centre, falling to 0 with zero slope at its radius.
 struct Metaball {
     float radius = 100.0f;                    ///< Of influence, in world units.
-    float falloff = 0.5f / (100.0f * 100.0f); ///< 0.5 / radius², so that the field divides nothing.
+    float falloff = 0.5f / (100.0f * 100.0f); ///< 0.5 / radius²: saves the field a division.
     Vec3 centre;
-    Sphere bounds{100.0f, {}}; ///< Cells that it does not meet are dropped.
+    Sphere bounds{100.0f,
+                  {}}; ///< The sphere of influence; cells that it does not meet are dropped.
 
     /// The way to change a ball: `falloff`, which alone decides its field, and `bounds` follow.
     void set(const Vec3& newCentre, float newRadius);

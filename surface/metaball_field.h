@@ -9,7 +9,8 @@
 // The field of all balls. Every sum goes over them in array order, so that a result does not depend
 // on who asks: floating-point addition is not associative.
 
-/// Step of the backward differences that estimate the normal.
+/// Step of the backward differences that estimate the normal: small beside balls and cells, large
+/// beside the rounding of the field.
 constexpr float gradientStep = 0.1f; // world units
 
 /// The field of all `balls` at a point in world space; 0 without balls.
@@ -19,13 +20,14 @@ float fieldAt(std::span<const Metaball> balls, const Vec3& p);
 /// that of the outward unit vector.
 Vec3 surfaceTexCoord(std::span<const Metaball> balls, const Vec3& p, float valueAtP);
 
-/// The coordinates of one point or vector, or, with Float4, of four: one to a lane.
+/// The coordinates of one point or vector or, with Float4, of four, one per lane.
 template <typename Real>
 struct Coordinates {
     Real x, y, z;
 };
 
-/// A field at a point, and one `gradientStep` before it along each axis.
+/// The field at a point, and one `gradientStep` before it along each axis. A template, so that one
+/// vertex and four of them get the same bits from the same lines.
 template <typename Real>
 struct BackwardSamples {
     Real value{};
@@ -47,8 +49,8 @@ struct BackwardSamples {
         before.z += fieldShare(falloff, dx * dx + dy * dy + bz * bz);
     }
 
-    /// The unit vector in which the field falls, with x and y brought from [-1, 1] to [0, 1]: these
-    /// two are the texture coordinate. A flat field gives (0.5, 0.5, 0).
+    /// The unit vector along which the field falls, with x and y mapped from [-1, 1] to [0, 1]:
+    /// these two are the texture coordinate. A flat field gives (0.5, 0.5, 0).
     Coordinates<Real> texCoord() const
     {
         // The field falls outwards, so the backward differences point out of the surface.

@@ -20,8 +20,8 @@ MetaballSurface::MetaballSurface()
 
 void MetaballSurface::setBallCount(std::uint32_t count)
 {
-    ballCount = 0;
-    balls.reset();
+    ballCount = 0; // holds if there is no memory for the new balls
+    balls.reset(); // before the new ones are made, so that both need not fit
     balls = zrk::newArray<Metaball>(count);
     ballCount = count;
     for (std::uint32_t i = 0; i < count; ++i)
@@ -51,6 +51,7 @@ void MetaballSurface::polygonizeAndDraw()
     if (visibility == 0)
         return;
 
+    // Every node of the last frame is given up here: the tree is built anew.
     if (nodePool.size() != nodePoolSize)
         nodePool.resize(nodePoolSize);
     nodePool.reset();
@@ -64,7 +65,7 @@ void MetaballSurface::polygonizeAndDraw()
         values[corner] = fieldAt(cornerPosition(region, corner));
 
     shader->apply();
-    syncBounds();
+    syncBounds(); // before the first cell is tested against them
     polygonizer.begin(allBalls(), region, octree.maxDepth, threshold);
     subdivide(*octree.root, values, 0, caseIndexOf(values, threshold), visibility);
 }

@@ -15,8 +15,8 @@ namespace zrk {
 class Shader;
 }
 
-/// The surface on which the field of the metaballs equals a threshold, made anew every frame and
-/// sent to OpenGL as it is made. Inside is where the field is not below the threshold.
+/// The isosurface of the metaballs' field at `threshold`, polygonised afresh every frame and sent
+/// to OpenGL as its triangles are found. Inside is where the field is not below the threshold.
 class MetaballSurface : public Drawable {
 public:
     std::uint32_t nodePoolSize = 50000; ///< A tree of depth 5 has at most 37,449 nodes.
@@ -28,11 +28,11 @@ public:
     float threshold = 0.5f;
     std::uint32_t ballCount = 0;
 
-    /// Has 25 balls.
+    /// Makes 25 balls, see `setBallCount`.
     MetaballSurface();
 
-    /// Puts `count` balls of radius 400 at the origin in the place of those there were. No memory
-    /// is `Cexception`.
+    /// Replaces all balls by `count` balls of radius 400 at the origin. Without memory it throws
+    /// `Cexception` and leaves none.
     void setBallCount(std::uint32_t count);
 
     /// The field of all balls at a point in world space.
@@ -47,12 +47,13 @@ public:
     void interpolateEdge(const Vec3& pa, const Vec3& pb, float va, float vb, Vec3& outVertex,
                          float& outValue) const;
 
-    /// Makes the bounds of every ball follow it; `polygonizeAndDraw` does so in every frame.
+    /// Brings the bounds of all balls in step with them; `polygonizeAndDraw` does so every frame.
     void syncBounds();
 
-    /// Draws the part of the surface that the `viewFrustum` may see. The `shader` must be set, a
-    /// context be current and hold the matrices that the frustum was made of. A region out of view
-    /// makes no call of OpenGL.
+    /// Draws the part of the surface that `viewFrustum` lets through. `shader` must be set, and the
+    /// current context must hold the matrices that the frustum was made from. If the whole region
+    /// is out of view, no OpenGL function is called. Memory is allocated in the first frame and
+    /// after a change of sizes only; without it `Cexception` is thrown.
     void polygonizeAndDraw();
 
     /// Visits the cell of `node` and what lies below it, see `Polygonizer::subdivide`. For
@@ -69,7 +70,7 @@ public:
     void draw() override;
     std::int32_t kind() override;
 
-    /// Does nothing: nothing is kept from frame to frame.
+    /// Does nothing: no geometry is kept from frame to frame.
     void rebuild() override;
 
 private:

@@ -11,8 +11,8 @@
 
 namespace {
 
-/// How far outside its cell a sample may lie: a gradient step before a vertex, and what rounding
-/// may add to that.
+/// How far outside its cell a sample may lie: one gradient step, and a few units in the last place
+/// of a coordinate.
 float sampleMargin(const BoundingBox& region)
 {
     float farthest = 0.0f;
@@ -23,9 +23,8 @@ float sampleMargin(const BoundingBox& region)
 
 FieldBall fieldBall(const Metaball& ball, float margin)
 {
-    // The field ends where the falloff says, the bounds where the radius does: one of the two may
-    // have been written without the other. A thousandth more is far beyond what rounding can do to
-    // a ball's own terms.
+    // The field ends where falloff * d² is 0.5, the bounds end at the radius; the two may differ
+    // when one was written without the other. The factor covers all rounding in these terms.
     const auto& [radius, centre] = ball.bounds;
     const float fieldRadius = std::sqrt(0.5f / ball.falloff);
     const float reach = (std::max(fieldRadius, std::abs(radius)) + margin) * 1.001f;
@@ -38,7 +37,7 @@ FieldBall fieldBall(const Metaball& ball, float margin)
             reach * reach};
 }
 
-/// The squared way from `c` to the nearest number between `low` and `high`.
+/// `BoundingBox::intersects` per axis: the squared distance from `c` to an interval.
 Float4 distance2(Float4 c, Float4 low, Float4 high)
 {
     const Float4 below = c - low;
@@ -64,7 +63,7 @@ void NearbyBalls::begin(std::span<const Metaball> balls, const BoundingBox& regi
 
 void NearbyBalls::resize(std::uint32_t newBallCount, std::size_t newDepthCount)
 {
-    // None until all arrays are there: `Cexception` may be survived.
+    // Zero until all three arrays exist: a caller may catch `Cexception` and draw another frame.
     ballCount = 0;
     depthCount = 0;
     fieldBalls = zrk::newArray<FieldBall>(newBallCount);
@@ -81,7 +80,7 @@ void NearbyBalls::measureOctants(std::uint32_t depth, const GridLines& lines)
     for (auto& [ball, toOctants2] : std::span(list, counts[depth])) {
         const Float4 toLow = distance2(ball->boundsCentre, low, middle);
         const Float4 toHigh = distance2(ball->boundsCentre, middle, high);
-        // In corner order, which goes around a face.
+        // Corner order goes around a face of constant y: x is low, high, high, low.
         const Float4 toX{toLow[0], toHigh[0], toHigh[0], toLow[0]};
         const Float4 toZ{toLow[2], toLow[2], toHigh[2], toHigh[2]};
         toOctants2 = {toX + toLow[1] + toZ, toX + toHigh[1] + toZ};
@@ -90,13 +89,14 @@ void NearbyBalls::measureOctants(std::uint32_t depth, const GridLines& lines)
 
 unsigned NearbyBalls::octantsReaching(std::uint32_t depth, float level) const
 {
-    // No ball adds more than it does at its distance to the octant.
+    // The kernel falls with distance, so a ball's share at the point of the octant nearest to its
+    // centre bounds its share anywhere in it, and the sum of these bounds the field.
     std::array<Float4, 2> bounds{};
     for (const auto& [ball, toOctants2] : at(depth))
         for (std::size_t half = 0; half < 2; ++half)
             bounds[half] += fieldShare(ball->falloff, toOctants2[half]);
 
-    // Far more than the bounds and the samples may be off by rounding.
+    // Far more than rounding can add to the bound or the samples.
     const float slack = 1e-5f * static_cast<float>(ballCount) * std::max(1.0f, level);
     unsigned octants = 0;
     for (std::size_t octant = 0; octant < cornerCount; ++octant)
@@ -112,9 +112,9 @@ bool NearbyBalls::enterOctant(std::uint32_t depth, std::size_t octant)
     for (const auto& [ball, toOctants2] : at(depth)) {
         const float d2 = toOctants2[octant / 4][octant % 4];
         met |= d2 <= ball->radius2;
-        // Written in any case, kept if near: a branch could not be predicted.
+        // Written always, kept if near: a branch on where a ball lies is hardly predictable.
         list[count].ball = ball;
-        count += d2 > ball->reach2 ? 0 : 1; // what is no number stays
+        count += d2 > ball->reach2 ? 0 : 1; // NaN counts as near
     }
     counts[depth + 1] = count;
     return met;

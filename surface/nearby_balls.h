@@ -11,53 +11,55 @@
 
 struct Metaball;
 
-/// A ball as the sums take it, each number in all four lanes.
+/// A ball with each number that the sums need broadcast to four lanes.
 struct FieldBall {
     Float4 x, y, z; ///< The centre.
     Float4 falloff;
     Float4 boundsCentre; ///< In the lanes x, y and z.
     float radius2;       ///< The square of its bounds' radius.
-    float reach2; ///< At a larger squared distance from a cell neither it nor a sample is reached.
+    /// A cell at a larger squared distance does not meet the bounds, and neither its samples nor
+    /// those a `gradientStep` outside it are in the ball's field.
+    float reach2;
 };
 
-/// A ball as a cell knows it.
+/// An entry of a cell's list.
 struct NearbyBall {
     const FieldBall* ball;
     std::array<Float4, 2> toOctants2; ///< Squared distances to octants 0 to 3 and 4 to 7.
 };
 
-/// The balls near the cell being visited and near each of the cells that it lies in, by depth. A
-/// list holds, in array order, the balls that a sample of its cell can feel, vertices and what is a
-/// `gradientStep` before them included. Those left out would add exactly 0 to each, so a sum over
-/// the list is the sum over all balls, bit for bit.
+/// For each depth, the balls near the visited cell of that depth: a stack of lists along the path
+/// from the region to the cell being visited. A list holds, in array order, every ball whose field
+/// reaches a sample of its cell, samples a `gradientStep` before a vertex included. The others
+/// would add exactly 0, so a sum over the list equals the sum over all balls bit for bit.
 class NearbyBalls {
 public:
-    /// Begins a frame: at depth 0, in the `region`, all `balls` are near. Their bounds must be in
-    /// step with them. Room for the lists is kept while the numbers of balls and of depths stay the
-    /// same; no memory for it is `Cexception`.
+    /// Begins a frame: the list of depth 0, of the `region`, holds all `balls`, whose bounds must
+    /// be in step with them. Memory is allocated only when the number of balls or of depths
+    /// changes; without it `Cexception` is thrown.
     void begin(std::span<const Metaball> balls, const BoundingBox& region, std::uint32_t maxDepth);
 
-    /// The list of the cell being visited at `depth`, or of the one around it.
+    /// The list of the visited cell of `depth`.
     std::span<const NearbyBall> at(std::uint32_t depth) const
     {
         return {lists.get() + std::size_t{depth} * ballCount, counts[depth]};
     }
 
-    /// Measures the balls near the cell at `depth` against its octants, which `lines` divide.
+    /// Computes the distances of the balls near the visited cell of `depth` to its octants, whose
+    /// planes are `lines`. The other functions on octants read them.
     void measureOctants(std::uint32_t depth, const GridLines& lines);
 
-    /// The measured octants, one bit each, in which the field may come up to `level` anywhere.
+    /// The octants, one bit each, in which the field may reach `level` somewhere.
     unsigned octantsReaching(std::uint32_t depth, float level) const;
 
-    /// Makes the list of the next depth that of a measured octant. False if no ball's bounds meet
-    /// the octant.
+    /// Makes the list of the next depth that of an octant. False if no ball's bounds meet it.
     bool enterOctant(std::uint32_t depth, std::size_t octant);
 
 private:
     std::uint32_t ballCount = 0;
     std::size_t depthCount = 0;
     std::unique_ptr<FieldBall[]> fieldBalls;
-    std::unique_ptr<NearbyBall[]> lists; ///< `ballCount` places a depth.
+    std::unique_ptr<NearbyBall[]> lists; ///< `ballCount` entries per depth.
     std::unique_ptr<std::uint32_t[]> counts;
 
     void resize(std::uint32_t newBallCount, std::size_t newDepthCount);

@@ -14,24 +14,25 @@ struct OctreeNode {
     BoundingBox bounds;
 };
 
-/// What the last frame visited. Its nodes belong to the `nodePool`.
+/// The cells that the last frame visited. The nodes belong to `nodePool`.
 struct Octree {
     std::uint32_t maxDepth = 3;
     OctreeNode* root = nullptr;
 };
 
-/// The nodes of a frame, reused by the next one.
+/// An arena for the nodes of one frame, reused by the next one: nodes are not freed one by one.
 class NodePool {
 public:
-    /// Makes room for `newCapacity` nodes and forgets those there were. No memory is `Cexception`.
+    /// Replaces the nodes by `newCapacity` new ones. Without memory it throws `Cexception` and has
+    /// none.
     void resize(std::uint32_t newCapacity);
 
-    /// Hands out from the first node again.
+    /// Starts again at the first node.
     void reset() { next = 0; }
 
-    /// The next node, as its last user left it. After the last node comes the first again, so a
-    /// tree of more nodes than `size` overwrites its own: what a visit needs of its node it must
-    /// read before it takes another. The size must not be 0.
+    /// The next node, with the contents that its last user left. After the last node the first
+    /// follows, so a tree of more than `size` nodes overwrites itself: a visit must read its own
+    /// node before it takes another. The size must not be 0.
     OctreeNode* take()
     {
         assert(capacity > 0);

@@ -2,12 +2,13 @@
 
 #include "surface/vec3.h"
 
-/// The points p with n·p + d = 0.
+/// A plane in implicit form: the points p with n·p + d = 0.
 struct Plane {
     float d = 0.0f;
     Vec3 n;
 
-    /// How far `p` lies on the side that `n` points to: world units once normalised.
+    /// The signed distance of `p`, positive on the side that `n` points to; in world units if the
+    /// plane is normalised.
     constexpr float distance(const Vec3& p) const { return n.x * p.x + n.y * p.y + n.z * p.z + d; }
 
     /// Scales the plane so that `n` has length 1. `n` must not be zero.

@@ -14,6 +14,8 @@
 
 namespace {
 
+// The middle is the minimum plus half the extent, not the mean of both ends: the two may round
+// differently.
 GridLines gridLines(const BoundingBox& box)
 {
     const Float4 low{box.min().x, box.min().y, box.min().z};
@@ -41,12 +43,24 @@ CornerValues octantCorners(const Grid& grid, std::size_t octant)
 
 using OctantCases = std::array<std::uint8_t, cornerCount>;
 
+/// The bits in a case index of the two corners that end an edge along x, in a byte each:
+///
+///     15 ...... 8 | 7 ....... 0
+///     corner at   | corner at
+///     minimum x   | maximum x
+constexpr std::int32_t edgeBits(int cornerAtMinimum, int cornerAtMaximum)
+{
+    return 1 << (8 + cornerAtMinimum) | 1 << cornerAtMaximum;
+}
+
 /// The case indices of a cell's octants, as `caseIndexOf` has them for each.
 OctantCases octantCases(const Grid& grid, float threshold)
 {
-    // By the offset in y and z of a row of an octant's corners: the bit of the corner at the
-    // minimum of x in the second byte, of that at the maximum in the first.
-    static constexpr std::int32_t cornerBits[2][2]{{0x0102, 0x0804}, {0x1020, 0x8040}};
+    // An octant has four edges along x, at the offsets [y][z]. Each takes two neighbouring lanes of
+    // a row of the grid. A lane may be either end of an edge, so it gets the bits of both, and the
+    // octant picks the byte it needs from each of its two lanes.
+    static constexpr std::int32_t cornerBits[2][2]{{edgeBits(0, 1), edgeBits(3, 2)},
+                                                   {edgeBits(4, 5), edgeBits(7, 6)}};
     Int4 outside[2][2]{};
     for (std::size_t y = 0; y < 2; ++y)
         for (std::size_t z = 0; z < 2; ++z)
@@ -62,8 +76,9 @@ OctantCases octantCases(const Grid& grid, float threshold)
     return cases;
 }
 
-/// The octants that may hold surface, one bit each. Where all corners are outside, a small ball may
-/// still lie between them, if the field reaches the threshold anywhere in the octant.
+/// The octants that may hold surface, one bit each. One with all corners inside is dropped, hollows
+/// and all. In one with all corners outside a small ball may lie between them, if the field reaches
+/// the threshold anywhere in it.
 unsigned octantsToVisit(const OctantCases& cases, unsigned reachingThreshold)
 {
     unsigned octants = 0;
@@ -78,7 +93,7 @@ void setCornerSamples(CornerSamples& samples, const BoundingBox& box, const Corn
 {
     for (std::size_t corner = 0; corner < cornerCount; ++corner) {
         const Vec3 p = cornerPosition(box, corner);
-        // In one piece, as it will be read.
+        // Stored as one vector, because it is loaded as one: see `crossingOn`.
         samples[corner] = std::bit_cast<CornerSample>(Float4{p.x, p.y, p.z, values[corner]});
     }
 }
@@ -123,7 +138,7 @@ void Polygonizer::subdivide(OctreeNode& node, const CornerValues& values, std::u
     const Grid grid = sampleGrid(nearbyBalls.at(depth), lines);
     const OctantCases cases = octantCases(grid, threshold);
     nearbyBalls.measureOctants(depth, lines);
-    // A leaf whose corners are all outside holds nothing.
+    // Octants with all corners outside: a leaf draws nothing then, no matter what lies within.
     const bool leaves = depth + 1 == maxDepth;
     const unsigned reaching = leaves ? 0 : nearbyBalls.octantsReaching(depth, threshold);
     for (unsigned open = octantsToVisit(cases, reaching); open != 0; open &= open - 1) {
@@ -145,7 +160,7 @@ void Polygonizer::polygonizeLeaf(const CornerSamples& samples, std::uint8_t case
     if (edgeTable[caseIndex] == 0)
         return;
 
-    // In groups of four: the last one is filled up with the first edge again.
+    // Four crossings are evaluated at a time; repeats of the first edge fill the last group.
     std::array<std::uint8_t, edgeCount + 3> edges;
     std::size_t count = 0;
     for (std::uint32_t open = edgeTable[caseIndex]; open != 0; open &= open - 1)
