@@ -17,10 +17,3 @@ TEST(MetaballField, IsTheSumOfBallsThatFallFromOneToNothing)
     surface.setBallCount(0);
     EXPECT_EQ(surface.fieldAt({}), 0);
 }
-
-TEST(Vec3, NormalizingLeavesZeroAlone)
-{
-    Vec3 noDirection; // of the field, in the middle between two balls
-    noDirection.normalize();
-    EXPECT_EQ(noDirection.length(), 0);
-}
