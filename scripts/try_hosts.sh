@@ -35,7 +35,7 @@ wait_until()
 
 saver_runs()
 {
-    pgrep -f '^([^ ]*/xscreensaver/)?quazo /s' >/dev/null
+    pgrep -f '^([^ ]*/xscreensaver/)?quazo [-/]s' >/dev/null
 }
 
 no_saver_runs()
