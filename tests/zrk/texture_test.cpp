@@ -83,40 +83,44 @@ TEST(TextureLoad, RefusesWithOneLineAndChangesNothing)
     EXPECT_STREQ(texture.fileName.cString(), "image.tga");
 }
 
-TEST(Texture, SendsItsPixelsByDepthAndOptionsOnce)
+struct Upload {
+    std::string name;
+    int bits;
+    bool mask, mipmap;
+    std::string format, type = "GL_UNSIGNED_BYTE";
+};
+
+const Upload uploads[] = {
+    {"Rgba", 32, true, false, "GL_RGBA"},
+    {"Rgb", 24, true, true, "GL_RGB"},
+    {"SixteenBits", 16, true, false, "GL_RGB", "GL_UNSIGNED_SHORT_5_6_5"},
+    {"Alpha", 8, true, true, "GL_ALPHA"},
+    {"Luminance", 8, false, true, "GL_LUMINANCE"},
+};
+
+class TextureUpload : public testing::TestWithParam<Upload> {};
+
+INSTANTIATE_TEST_SUITE_P(, TextureUpload, testing::ValuesIn(uploads),
+                         [](const auto& upload) { return upload.param.name; });
+
+TEST_P(TextureUpload, SendsThePixelsOnce)
 {
-    const struct {
-        int bits;
-        bool mask, mipmap;
-        const char* call;
-    } cases[] = {
-        {32, true, false,
-         "glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, 3, 2, 0, GL_RGBA, GL_UNSIGNED_BYTE, pixels)"},
-        {24, true, true,
-         "gluBuild2DMipmaps(GL_TEXTURE_2D, GL_RGB, 3, 2, GL_RGB, GL_UNSIGNED_BYTE, pixels)"},
-        {16, true, false,
-         "glTexImage2D(GL_TEXTURE_2D, 0, GL_RGB, 3, 2, 0, GL_RGB, GL_UNSIGNED_SHORT_5_6_5, "
-         "pixels)"},
-        {8, true, true,
-         "gluBuild2DMipmaps(GL_TEXTURE_2D, GL_ALPHA, 3, 2, GL_ALPHA, GL_UNSIGNED_BYTE, pixels)"},
-        {8, false, true,
-         "gluBuild2DMipmaps(GL_TEXTURE_2D, GL_LUMINANCE, 3, 2, GL_LUMINANCE, GL_UNSIGNED_BYTE, "
-         "pixels)"},
-    };
-    for (const auto& [bits, mask, mipmap, call] : cases) {
-        gl_recorder::reset();
-        {
-            zrk::Texture texture;
-            texture.surface.reset(SDL_CreateRGBSurface(0, 3, 2, bits, 0, 0, 0, 0));
-            texture.mask = mask;
-            texture.mipmap = mipmap;
-            EXPECT_EQ(texture.upload(), 1u);
-            EXPECT_EQ(texture.upload(), 1u);
-        }
-        EXPECT_THAT(gl_recorder::takeCalls(),
-                    ElementsAre("glGenTextures(1)", "glBindTexture(GL_TEXTURE_2D, 1)", call,
-                                "glGetError()", "glGetError()", "glDeleteTextures(1, 1)"));
+    const auto& [name, bits, mask, mipmap, format, type] = GetParam();
+    gl_recorder::reset();
+    {
+        zrk::Texture texture;
+        texture.surface.reset(SDL_CreateRGBSurface(0, 3, 2, bits, 0, 0, 0, 0));
+        texture.mask = mask;
+        texture.mipmap = mipmap;
+        EXPECT_EQ(texture.upload(), 1u);
+        EXPECT_EQ(texture.upload(), 1u);
     }
+    const std::string call =
+        (mipmap ? "gluBuild2DMipmaps(GL_TEXTURE_2D, " : "glTexImage2D(GL_TEXTURE_2D, 0, ") +
+        format + ", 3, 2, " + (mipmap ? "" : "0, ") + format + ", " + type + ", pixels)";
+    EXPECT_THAT(gl_recorder::takeCalls(),
+                ElementsAre("glGenTextures(1)", "glBindTexture(GL_TEXTURE_2D, 1)", call,
+                            "glGetError()", "glGetError()", "glDeleteTextures(1, 1)"));
 }
 
 TEST(TextureDeathTest, PendingOpenGlErrorEndsTheProcess)

@@ -37,7 +37,7 @@ inline std::string textOf(const zrk::Shader& shader)
     text += std::string(" ") + (shader.hasBlend ? "b" : "") + (shader.hasTexture ? "t" : "") +
             (shader.hasColor ? "c" : "") + "\n{";
     for (const zrk::ShaderLayer* layer : shader.layers())
-        text += " " + textOf(*layer) + "\n";
+        text.append(" ").append(textOf(*layer)).append("\n");
     return text + "}\n";
 }
 

@@ -5,7 +5,6 @@
 #include "zrk/renderer.h"
 #include "zrk/shaders/blend_layer.h"
 #include "zrk/shaders/color_layer.h"
-#include "zrk/shaders/layer_registry.h"
 #include "zrk/shaders/multitexture_layer.h"
 #include "zrk/shaders/texture_layer.h"
 #include "zrk/shaders/texture_units.h"
@@ -182,21 +181,6 @@ TEST(MultitextureLayer, CopiesItsStagesButNotItsIndex)
         EXPECT_EQ(textOf(*layer), textOf(source));
         EXPECT_TRUE(layer->prepared && layer->stages[1].state.glName == 9 && layer->index == 0);
     }
-}
-
-TEST(LayerRegistry, DeletesItsLayersInTheOrderOfAdding)
-{
-    static std::string deleted;
-    struct NumberedLayer : BlendLayer {
-        explicit NumberedLayer(std::int32_t number) { index = number; }
-        ~NumberedLayer() override { deleted += std::to_string(index); }
-    };
-    auto registry = std::make_unique<LayerRegistry>();
-    for (const std::int32_t number : {1, 2, 3})
-        registry->add(std::make_unique<NumberedLayer>(number));
-    EXPECT_EQ(registry->count(), 3u);
-    registry.reset();
-    EXPECT_EQ(deleted, "123");
 }
 
 TEST(ShaderLayer, ReappliesAndReadsBackPastTheCachesAndPrintsWhatHasAWord)
