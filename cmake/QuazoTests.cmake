@@ -18,6 +18,6 @@ function(quazo_test name)
   if(TEST_DISPLAY)
     list(APPEND properties LABELS display)
   endif()
-  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+  gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
     PROPERTIES ${properties})
 endfunction()
