@@ -1,4 +1,6 @@
-// One frame's surface: the literal version and ours in one run, into a sink.
+// Frames of the surface into a sink: the literal version, built with the release flags and with
+// those of the surface's room, and ours. One run holds all three, so that their ratios can be
+// trusted.
 
 #include "surface/frustum.h"
 #include "surface/metaball_surface.h"
@@ -9,32 +11,44 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <array>
-#include <string>
+#include <cstdint>
+#include <vector>
+
+/// `drawLiterally`, built with the flags of the surface's room.
+void drawLiterallyWithRoomFlags(const MetaballSurface& surface);
 
 namespace {
 
-constexpr std::uint32_t frameCount = 8;
+// So many that no branch predictor learns them, spread over half a minute of animation.
+constexpr std::uint32_t frameCount = 64;
+constexpr float timeBetweenFrames = 0.5f; // on the animation clock
 
-/// Several surfaces, each at a random instant, so that no single one decides.
-class Frames {
+/// One surface and where its balls are in each frame.
+class Film {
 public:
-    std::array<MetaballSurface, frameCount> surfaces;
+    MetaballSurface surface;
 
-    explicit Frames(std::int64_t depth)
+    Film(std::uint32_t depth, std::uint32_t ballCount, std::uint32_t seed)
     {
-        for (std::uint32_t seed = 0; seed < frameCount; ++seed) {
-            surface_world::setUp(surfaces[seed], seed);
-            surfaces[seed].depthSetting = static_cast<std::uint32_t>(depth);
-            surfaces[seed].shader = &shader;
+        for (std::uint32_t frame = 0; frame < frameCount; ++frame) {
+            const float time = timeBetweenFrames * static_cast<float>(frame);
+            surface_world::setUp(surface, seed, time, ballCount);
+            frames[frame].assign(surface.balls.get(), surface.balls.get() + ballCount);
         }
+        surface.depthSetting = depth;
+        surface.shader = &shader;
     }
+
+    void placeBalls(std::size_t frame) { std::ranges::copy(frames[frame], surface.balls.get()); }
 
 private:
     zrk::Shader shader;
+    std::array<std::vector<Metaball>, frameCount> frames;
 };
 
-/// One iteration is one frame, of each of the surfaces in turn.
+/// One iteration is one frame. Arguments: depth, number of balls, seed.
 template <typename Draw>
 void drawFrames(benchmark::State& state, bool wholeRegion, Draw draw)
 {
@@ -42,16 +56,52 @@ void drawFrames(benchmark::State& state, bool wholeRegion, Draw draw)
         surface_world::seeBox(1e6f);
     else
         surface_world::seeWindow(800.0f / 600.0f);
-    Frames frames(state.range(0));
-    std::uint32_t frame = 0;
-    for ([[maybe_unused]] auto _ : state)
-        draw(frames.surfaces[frame++ % frameCount]);
+    const auto argument = [&](std::size_t i) { return static_cast<std::uint32_t>(state.range(i)); };
+    Film film(argument(0), argument(1), argument(2));
+    draw(film.surface); // the first frame allocates
+    std::size_t frame = 0;
+    for ([[maybe_unused]] auto _ : state) {
+        film.placeBalls(frame++ % frameCount);
+        draw(film.surface);
+    }
 }
 
 void drawOurs(MetaballSurface& surface)
 {
     surface.polygonizeAndDraw();
 }
+
+/// The saver's own settings, for nine seeds.
+void saverScenes(benchmark::internal::Benchmark* bench)
+{
+    bench->ArgNames({"depth", "balls", "seed"})->Unit(benchmark::kMicrosecond);
+    for (std::int64_t seed = 1; seed <= 9; ++seed)
+        bench->Args({5, 12, seed});
+    bench->Iterations(benchmark::IterationCount{2} * frameCount);
+}
+
+/// Other depths, and many balls: half a film, since the finest cells take long.
+void otherScenes(benchmark::internal::Benchmark* bench)
+{
+    bench->ArgNames({"depth", "balls", "seed"})->Unit(benchmark::kMicrosecond);
+    for (const std::int64_t depth : {4, 6, 7, 8})
+        bench->Args({depth, 12, 1});
+    bench->Args({5, 192, 1})->Iterations(frameCount / 2);
+}
+
+BENCHMARK_CAPTURE(drawFrames, literal_in_view, false, drawLiterally)->Apply(saverScenes);
+BENCHMARK_CAPTURE(drawFrames, literal_room_flags_in_view, false, drawLiterallyWithRoomFlags)
+    ->Apply(saverScenes);
+BENCHMARK_CAPTURE(drawFrames, ours_in_view, false, drawOurs)->Apply(saverScenes);
+BENCHMARK_CAPTURE(drawFrames, literal_whole, true, drawLiterally)->Apply(saverScenes);
+BENCHMARK_CAPTURE(drawFrames, literal_room_flags_whole, true, drawLiterallyWithRoomFlags)
+    ->Apply(saverScenes);
+BENCHMARK_CAPTURE(drawFrames, ours_whole, true, drawOurs)->Apply(saverScenes);
+
+BENCHMARK_CAPTURE(drawFrames, literal_in_view, false, drawLiterally)->Apply(otherScenes);
+BENCHMARK_CAPTURE(drawFrames, ours_in_view, false, drawOurs)->Apply(otherScenes);
+BENCHMARK_CAPTURE(drawFrames, literal_whole, true, drawLiterally)->Apply(otherScenes);
+BENCHMARK_CAPTURE(drawFrames, ours_whole, true, drawOurs)->Apply(otherScenes);
 
 void fieldSample(benchmark::State& state)
 {
@@ -64,6 +114,8 @@ void fieldSample(benchmark::State& state)
     }
 }
 
+BENCHMARK(fieldSample);
+
 void boxTest(benchmark::State& state)
 {
     surface_world::seeWindow(800.0f / 600.0f);
@@ -74,28 +126,8 @@ void boxTest(benchmark::State& state)
     }
 }
 
-/// Whole rounds of the frames, and about as long at every depth.
-template <typename Draw>
-void measure(const char* name, int depth, bool wholeRegion, Draw draw)
-{
-    benchmark::RegisterBenchmark(name, drawFrames<Draw>, wholeRegion, draw)
-        ->Arg(depth)
-        ->Iterations(benchmark::IterationCount{frameCount} << 2 * (8 - depth))
-        ->Unit(benchmark::kMicrosecond);
-}
+BENCHMARK(boxTest);
 
 } // namespace
 
-int main(int argumentCount, char** arguments)
-{
-    benchmark::Initialize(&argumentCount, arguments);
-    benchmark::RegisterBenchmark("fieldSample", fieldSample);
-    benchmark::RegisterBenchmark("boxTest", boxTest);
-    for (int depth = 4; depth <= 8; ++depth) {
-        measure("drawFrames/literal_in_view", depth, false, drawLiterally);
-        measure("drawFrames/ours_in_view", depth, false, drawOurs);
-        measure("drawFrames/literal_whole", depth, true, drawLiterally);
-        measure("drawFrames/ours_whole", depth, true, drawOurs);
-    }
-    benchmark::RunSpecifiedBenchmarks();
-}
+BENCHMARK_MAIN();

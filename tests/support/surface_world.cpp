@@ -45,18 +45,24 @@ void surface_world::seeWindow(float aspect)
           {-14500, {0, 0, 1}}}});
 }
 
-void surface_world::setUp(MetaballSurface& surface, std::uint32_t seed)
+void surface_world::setUp(MetaballSurface& surface, std::uint32_t seed, float time,
+                          std::uint32_t ballCount)
 {
     std::mt19937 random(seed);
     std::uniform_real_distribution<float> amplitude(0.0f, 800.0f);
-    std::uniform_real_distribution<float> angle(0.0f, 6.2831853f);
+    std::uniform_real_distribution<float> frequency(-2.0f, 2.0f);
+    std::uniform_real_distribution<float> phase(0.0f, 6.2831853f);
     std::uniform_real_distribution<float> radius(150.0f, 500.0f);
     surface.region = BoundingBox(Vec3(-1200.0f), Vec3(1200.0f));
     surface.depthSetting = 5;
     surface.threshold = 0.5f;
-    surface.setBallCount(12);
-    const auto coordinate = [&] { return amplitude(random) * std::sin(angle(random)); };
-    for (std::uint32_t i = 0; i < surface.ballCount; ++i) {
+    surface.setBallCount(ballCount);
+    const auto coordinate = [&] {
+        const float extent = amplitude(random);
+        const float start = phase(random);
+        return extent * std::sin((time + start) * frequency(random));
+    };
+    for (std::uint32_t i = 0; i < ballCount; ++i) {
         const float x = coordinate();
         const float y = coordinate();
         const float z = coordinate();

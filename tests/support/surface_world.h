@@ -16,7 +16,9 @@ void seeBox(float half);
 /// Lets the surface see what the camera of a window with this aspect ratio shows.
 void seeWindow(float aspect);
 
-/// The saver's settings, with 12 balls at a random instant of random paths.
-void setUp(MetaballSurface& surface, std::uint32_t seed);
+/// The saver's settings, with balls on random paths like the saver's: where they are at `time` on
+/// the animation clock.
+void setUp(MetaballSurface& surface, std::uint32_t seed, float time = 0.0f,
+           std::uint32_t ballCount = 12);
 
 } // namespace surface_world
