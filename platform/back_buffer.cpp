@@ -11,7 +11,8 @@ namespace {
 
 constexpr GLuint windowsOwn = 0; // the framebuffer that came with the window
 
-// Puts the program's bindings back. In between there is no scissor test, which would cut copies.
+// Saves and restores the program's bindings, and disables the scissor test in between: it clips
+// blits and clears.
 class BindingScope {
 public:
     BindingScope() : scissorTest(glIsEnabled(GL_SCISSOR_TEST))
@@ -58,9 +59,9 @@ constexpr GLint channelBits(GLenum format)
     return format == GL_RGBA8 ? 8 : 16;
 }
 
-// A renderbuffer of this format and size, or 0. Asking it what it became tells a refusal without
-// glGetError, which would take an error of the program away; that is only called to take back
-// the one that a refusal has raised.
+// A renderbuffer of this format and size, or 0. Whether the driver made it is asked of the object
+// and not of glGetError, which would clear an error of the program's own; glGetError is only called
+// to clear the error that a failed allocation has just raised.
 GLuint makePixels(GLenum format, desktop::Size size)
 {
     GLuint name = 0;
@@ -82,7 +83,7 @@ void attach(GLuint framebuffer, GLuint pixels)
     glFramebufferRenderbuffer(GL_DRAW_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, pixels);
 }
 
-// Makes what is bound for drawing opaque, and its colours black if they are to go as well.
+// Sets the alpha of the draw framebuffer to 1, and its colours to black where `colours` is GL_TRUE.
 void clear(GLboolean colours)
 {
     std::array<GLboolean, 4> mask{};

@@ -5,30 +5,31 @@
 
 namespace platform {
 
-/// What the program draws on in place of a window's own back buffer, whose picture a
-/// swap need not keep and whose 8 bits never fade to black. It has 16 bits a channel where the
-/// driver can draw on that, no depth, and an alpha that reads 1. It belongs to the context that was
-/// current when it was made, goes with it, and may be used only while that one is current.
+/// A framebuffer object that the program draws on in place of the window's own back buffer, whose
+/// contents are undefined after a swap and whose 8 bits a channel never fade to black. It has 16
+/// bits a channel where the driver supports that, no depth buffer, and an alpha that reads 1. It
+/// belongs to the context that was current when it was created, is deleted with it, and may only be
+/// used while that context is current.
 ///
-/// Every call leaves the program's OpenGL state as it was and no error of its own behind.
+/// Every call restores the program's OpenGL state and its pending OpenGL error.
 class BackBuffer {
 public:
-    /// Makes it black and binds it as the framebuffer to draw on and to read from, in place of
-    /// the window's. `wantedFormat` is GL_RGB16, or for a driver that cannot draw on that GL_RGBA16
-    /// or at the worst GL_RGBA8: their alpha is made 1 again by every `present`. False when the
-    /// driver cannot do it.
+    /// Creates it, black, and binds it for drawing and reading in place of the window's. The
+    /// renderbuffer's format is GL_RGB16, or, where the driver cannot render to that, GL_RGBA16 or
+    /// GL_RGBA8: their alpha is set back to 1 by every `present`. False when the driver has no
+    /// framebuffer objects or does not support the format.
     [[nodiscard]] bool create(desktop::Size size, GLenum wantedFormat);
 
-    /// Changes the size. The picture stays at its lower left corner as far as it fits; what is
-    /// new is black. Without memory for the new size the old one stays.
+    /// Changes the size. The contents keep their place at the lower left corner and are cut to the
+    /// new size; new pixels are black. Without memory for the new size the old one stays.
     void fit(desktop::Size size);
 
-    /// Copies the picture to the back buffer of the window that is current, without scaling.
+    /// Blits the contents to the back buffer of the current window, without scaling.
     void present() const;
 
 private:
-    GLuint drawTarget = 0; // what the program knows as its framebuffer; 0 before create
-    GLuint copySource = 0; // the same pixels, out of reach of the program's draw and read buffer
+    GLuint drawTarget = 0; // the framebuffer that the program draws on; 0 before create
+    GLuint copySource = 0; // the same pixels, with a read buffer that the program cannot set
     GLuint pixels = 0;
     GLenum format = GL_NONE;
     desktop::Size extent;

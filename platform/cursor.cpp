@@ -12,9 +12,9 @@ int ShowCursor(BOOL show)
     return displayCount;
 }
 
-// While a mouse message is handled this is the place it carried, not the place of this moment:
-// the pointer may be far ahead of the messages, and a path that is added up from them would lose
-// its corners and count the way to its end at once.
+// While a mouse message is dispatched this is the position in the message. The pointer's position
+// of this moment may be many messages ahead: a path summed up from it would jump to its end and
+// lose its corners.
 BOOL GetCursorPos(POINT* position)
 {
     if (position == nullptr)

@@ -4,18 +4,19 @@
 
 #include <cstdint>
 
-/// The port: what a desktop must do for the Win32 names. `platform/x11` does it on a real one;
-/// tests link a headless one instead. Everything here is called from the program's one thread.
+/// The port: the functions of a desktop system that the Win32 calls are built on. `platform/x11`
+/// implements them on X11; tests link a headless implementation. All are called from the program's
+/// one thread.
 ///
 /// Positions are in pixels from the top left corner of the *desktop*: the primary monitor, or the
-/// host's window where a host gave us one. Failure is a result, never a message of the port's own,
-/// save where said.
+/// host's window where a host gave us one. A failure is a return value; the port shows no message
+/// of its own except where said.
 namespace platform::desktop {
 
-/// A window as the desktop knows it; 0 is none.
+/// The port's name for a window; 0 is none.
 using NativeWindow = std::uintptr_t;
 
-/// An OpenGL context as the desktop knows it; null is none.
+/// The port's name for an OpenGL context; null is none.
 using NativeContext = void*;
 
 struct Size {
@@ -24,21 +25,22 @@ struct Size {
     bool operator==(const Size&) const = default;
 };
 
-/// Something that happened to a window, in Win32's terms: `message` with its parameters.
+/// Something that happened to a window, as a Win32 message with its parameters.
 struct Message {
     NativeWindow window = 0;
     UINT message = 0;
-    WPARAM wParam = 0; ///< For WM_ACTIVATE the high word is 1 while the window is minimised.
+    WPARAM wParam = 0; ///< For WM_ACTIVATE: the high word is 1 while the window is minimised.
     LPARAM lParam = 0;
-    POINT pointer{}; ///< For a mouse message where the pointer was on the desktop.
-    Size client{};   ///< For WM_SIZE the client area's size, which `lParam` does not tell.
+    POINT pointer{}; ///< For a mouse message: the pointer's position on the desktop.
+    Size client{};   ///< For WM_SIZE: the client area's size, which is not in `lParam`.
 };
 
-/// Finds out whether the program was started to draw in another one's window: `--window-id N`
-/// among its arguments, else the environment's XSCREENSAVER_WINDOW, a number in decimal or with
-/// 0x. True when something is given there, be it an argument without a number; if that is no
-/// window, connecting ends the process with status 1 and a line on standard error. An empty
-/// variable is none given. Call it before anything else here.
+/// Finds out whether the program was started by a host, to draw in one of its windows. The window's
+/// number, decimal or with 0x, follows `--window-id` among the arguments, or else is in the
+/// environment variable XSCREENSAVER_WINDOW, where an empty value counts as unset. True when a
+/// window was given, even by an argument without a number; if there is no such window, connecting
+/// ends the process with status 1 and a line on standard error. To be called before all other
+/// functions.
 bool chooseHost(int argumentCount, const char* const* arguments);
 
 /// The desktop's size; false when there is no desktop to draw on. The first call connects.
@@ -47,16 +49,16 @@ bool chooseHost(int argumentCount, const char* const* arguments);
 /// Where the pointer is now.
 [[nodiscard]] bool pointerPosition(POINT& result);
 
-/// The next thing that happened, in order; false when nothing waits. Sizes come last: after a
-/// window was made, placed, or resized by others, the size that it has by now is reported once,
-/// whether or not it is news.
+/// The next message, in order; false when none waits. Sizes come last: after a window was created,
+/// placed, or resized by others, the size that it has by now is reported once, whether or not it
+/// differs from the size before.
 [[nodiscard]] bool nextMessage(Message& result);
 
-/// Ends the connection; every window and context is gone with it. Harmless without one.
+/// Closes the connection to the desktop, with every window and context. Does nothing without one.
 void disconnect();
 
-/// Makes an undecorated window, not yet shown, able to take the best double-buffered pixel format
-/// there is. 0 when it cannot be made.
+/// Creates an undecorated window, not yet shown, that supports the best double-buffered pixel
+/// format there is. 0 when it cannot be created.
 [[nodiscard]] NativeWindow createWindow(const char* title, int x, int y, Size client);
 [[nodiscard]] bool destroyWindow(NativeWindow window);
 
@@ -79,20 +81,21 @@ void showPointer(NativeWindow window, bool visible);
 [[nodiscard]] bool makeCurrent(NativeWindow window, NativeContext context);
 [[nodiscard]] bool deleteContext(NativeContext context);
 
-/// Shows what was drawn and leaves it in the back buffer as well.
+/// Puts what was drawn on the screen, when the next frame is due. The back buffer keeps its
+/// contents.
 [[nodiscard]] bool swapBuffers(NativeWindow window);
 
-/// An OpenGL extension's entry point; null when there is none.
+/// The entry point of an OpenGL extension; null when there is none or no context is current.
 [[nodiscard]] PROC glProcedure(const char* name);
 
-/// Shows a box with an OK button and waits until it is pressed. It has the keyboard, and the
-/// pointer is seen over our windows too, until then. Without a display, or inside a host's window,
-/// the text goes to standard error instead. Works with and without a connection. Also returns as
-/// soon as `endDescriptor` can be read; -1 is none.
+/// Shows a message box with an OK button and returns when it is closed, or when `endDescriptor`
+/// (-1: none) becomes readable. The box has the keyboard focus, and the pointer is visible over our
+/// windows too. Without a display, or inside a host's window, the text goes to standard error
+/// instead. Connects if necessary.
 void messageBox(const char* text, const char* caption, UINT type, int endDescriptor);
 
-/// Tells the rest of the desktop that a screen saver is running; the word is taken back also
-/// when this process dies.
+/// Sets or clears the desktop-wide flag that a screen saver is running. However this process ends,
+/// the flag is cleared.
 void setScreenSaverRunning(bool running);
 
 } // namespace platform::desktop

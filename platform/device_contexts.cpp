@@ -8,7 +8,7 @@ namespace platform {
 
 namespace {
 
-// A window has one device context, for as long as it lives, and both handles are one number.
+// A window has one device context as long as it exists; both handles are the same number.
 HDC ownContextOf(HWND window)
 {
     return reinterpret_cast<HDC>(window);
@@ -19,7 +19,7 @@ HWND windowOf(HDC deviceContext)
     return reinterpret_cast<HWND>(deviceContext);
 }
 
-// No window's handle comes to this number.
+// A number that no window handle reaches.
 HDC screenContext()
 {
     return reinterpret_cast<HDC>(UINTPTR_MAX);

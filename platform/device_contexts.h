@@ -4,8 +4,8 @@
 
 namespace platform {
 
-/// The desktop's name for the window that this device context draws in; 0 for the screen's, for
-/// none, and once the window is destroyed.
+/// The port's name for the window of this device context; 0 for the screen's device context, for a
+/// null one, and for one whose window is destroyed.
 [[nodiscard]] desktop::NativeWindow nativeOf(HDC deviceContext);
 
 } // namespace platform

@@ -8,7 +8,7 @@
 
 namespace {
 
-// A host waits for its saver to go: a tenth of a second, less what going takes.
+// Hosts wait a tenth of a second for their saver; the exit itself needs some of that.
 constexpr std::chrono::milliseconds hostsPatience{80};
 
 std::string joinedByBlanks(std::span<char* const> arguments)
@@ -26,7 +26,7 @@ int main(int argumentCount, char** arguments)
 {
     const bool hosted = platform::desktop::chooseHost(argumentCount, arguments);
     platform::installEndSignals(hosted ? hostsPatience : std::chrono::milliseconds(0));
-    // The first argument is the program; a host may have given not even that.
+    // The first argument is the program's name, if there are arguments at all.
     const std::span<char* const> all(arguments, static_cast<std::size_t>(argumentCount));
     std::string commandLine = joinedByBlanks(all.empty() ? all : all.subspan(1));
     const int status = WinMain(GetModuleHandleA(nullptr), nullptr, commandLine.data(), SW_SHOW);

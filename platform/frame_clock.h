@@ -4,12 +4,12 @@
 
 namespace platform {
 
-/// Times are in nanoseconds of the monotonic clock.
+/// A time of the monotonic clock, or a duration.
 using Nanoseconds = std::int64_t;
 
-/// When the next frame is due, the last one having been due at `last`, 0 for none. Due times stay
-/// on one grid, so that a late frame delays no other; those that a stall has swallowed are left
-/// out, so that nothing rushes after it.
+/// The time when the next frame is due, if the last one was due at `last` (0: there was none). Due
+/// times are whole periods apart, so that one late frame does not delay the next. Those that have
+/// passed are skipped, save the latest: after a stall one frame comes at once and not a burst.
 [[nodiscard]] constexpr Nanoseconds nextDueTime(Nanoseconds last, Nanoseconds now,
                                                 Nanoseconds period)
 {
@@ -17,12 +17,12 @@ using Nanoseconds = std::int64_t;
     return last + (missed > 0 ? missed : 1) * period;
 }
 
-/// Keeps frames from coming faster than one a period.
+/// Limits the frame rate to one frame per period.
 class FrameClock {
 public:
     void setPeriod(Nanoseconds newPeriod) { period = newPeriod; }
 
-    /// Sleeps until the next frame is due; not at all where that time has passed. A signal ends
+    /// Sleeps until the next frame is due; returns at once if that time has passed. A signal ends
     /// the sleep early.
     void awaitNextFrame();
 

@@ -1,8 +1,8 @@
 #pragma once
 
-// The OpenGL entry points that the platform layer itself calls. Here the library exports all of
-// them. A port whose library ends with OpenGL 1.1 declares pointers of the same names in this
-// place, which it fills once a context is current.
+// Declares the OpenGL entry points that the platform layer itself calls, those later than 1.1
+// included. libGL exports all of them. For a library that exports OpenGL 1.1 only, this is the
+// place to declare function pointers of the same names, loaded once a context is current.
 #define GL_GLEXT_PROTOTYPES
 
 #include <GL/gl.h>

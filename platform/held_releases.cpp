@@ -24,7 +24,7 @@ void HeldReleases::add(const MSG& message)
         ready.push_back(message);
         return;
     }
-    // Of one key everything keeps its order: two taps are down, up, down, and the last up is held.
+    // The messages of one key stay in order: two taps give down, up, down, and the last up is held.
     const auto ofSameKey = [&](const MSG& release) { return release.wParam == message.wParam; };
     const auto earlier = std::find_if(held.begin(), held.end(), ofSameKey);
     if (earlier != held.end()) {

@@ -8,19 +8,20 @@
 
 namespace platform {
 
-/// Orders the messages between the desktop and the program so that no tap of a key is too short to
-/// be seen. A program that looks at its keys once a frame, when no message waits any more, would
-/// miss a key that goes down and up within one batch of messages. So such a release waits until
-/// the batch is over, or until the next message of the same key; nothing else waits with it.
+/// Passes messages on, and delays the release of a key that was pressed in the same batch of
+/// messages. The program looks at the state of its keys once per frame, after it has handled all
+/// waiting messages; a tap that begins and ends within one batch would never be seen. So its
+/// release is held until the batch is over, or until the next message of the same key. All other
+/// messages pass at once.
 class HeldReleases {
 public:
-    /// Takes a message from the desktop.
+    /// Adds a message that has come.
     void add(const MSG& message);
 
-    /// The next message for the program, if one is ready.
+    /// Takes the next message that may be passed on, if there is one.
     [[nodiscard]] std::optional<MSG> next();
 
-    /// Nothing waits on the desktop: the releases held so far are ready for the next batch.
+    /// To be called when no message waits any more: the held releases may be passed on.
     void endBatch();
 
 private:

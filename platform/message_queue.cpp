@@ -16,10 +16,10 @@ namespace {
 constinit std::optional<MSG> waiting; // looked at, but not removed
 constinit HeldReleases heldReleases;
 constinit std::optional<int> quitCode;
-constinit bool closeAsked = false;             // by a signal, and told
+constinit bool closeAsked = false;             // the WM_CLOSE of a signal was returned
 constinit const POINT* handledPlace = nullptr; // of the mouse message being dispatched
 
-// A signal asks the newest window to close, once: what it asks for is the window's to decide.
+// A signal becomes one WM_CLOSE for the newest window, whose procedure decides what to do about it.
 std::optional<MSG> closeBySignal()
 {
     const HWND window = newestHandle();
@@ -29,7 +29,7 @@ std::optional<MSG> closeBySignal()
     return MSG{window, WM_CLOSE, 0, 0, 0, {}};
 }
 
-// What is sent rather than queued goes to the procedure here and now.
+// Messages that Win32 sends and does not queue go to the procedure at once. False for the others.
 bool sentAtOnce(HWND window, const desktop::Message& message)
 {
     switch (message.message) {
@@ -44,7 +44,7 @@ bool sentAtOnce(HWND window, const desktop::Message& message)
     }
 }
 
-// Takes one message of the desktop in; false when none waits there.
+// Takes one message from the desktop; false when none waits there.
 bool takeFromDesktop()
 {
     desktop::Message message;
@@ -66,12 +66,12 @@ std::optional<MSG> nextFromDesktop()
         if (takeFromDesktop())
             continue;
         heldReleases.endBatch();
-        // Before a quit nothing stays behind: there will be no other batch.
+        // Before a quit the held releases are returned too: there will be no other batch.
         return quitCode ? heldReleases.next() : std::nullopt;
     }
 }
 
-// The quit comes only when nothing else waits, and once.
+// WM_QUIT comes once, when no other message waits.
 std::optional<MSG> quit()
 {
     if (!quitCode)

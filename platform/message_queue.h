@@ -4,8 +4,7 @@
 
 namespace platform {
 
-/// Where the pointer was when the mouse message came that a window procedure is handling now;
-/// false when none is.
+/// The position of the pointer in the mouse message that is being dispatched; false while none is.
 [[nodiscard]] bool pointerOfHandledMessage(POINT& result);
 
 } // namespace platform

@@ -11,13 +11,13 @@
 
 HMODULE GetModuleHandleA(LPCSTR moduleName)
 {
-    constexpr std::uintptr_t ourModule = 0x400000; // where programs are loaded by custom
+    constexpr std::uintptr_t ourModule = 0x400000; // the usual load address of a program
     return moduleName == nullptr ? reinterpret_cast<HMODULE>(ourModule) : nullptr;
 }
 
 UINT GetWindowsDirectoryA(LPSTR buffer, UINT size)
 {
-    std::error_code unreadable; // the path is empty then, and its places are not there
+    std::error_code unreadable; // then the path is empty, and no directory is found beside it
     const std::string directory =
         platform::windowsDirectory(std::getenv("QUAZO_WINDOWS_DIRECTORY"),
                                    std::filesystem::read_symlink("/proc/self/exe", unreadable),

@@ -5,17 +5,17 @@
 namespace platform {
 
 /// From here on SIGTERM, SIGINT and SIGHUP no longer kill the process: they leave a request to
-/// end, which stays for good. Where `patience`, below a second, is not 0, a process that has not
-/// ended cleanly by then ends as it is, with status 0: a host that waits for it must not wait for a
-/// long frame. SIGPIPE is ignored, so that a reader of our output or a display that goes away is an
-/// error for whoever writes, not a death without a clean end.
+/// end, which is never withdrawn. A process that has not ended by itself within the grace period
+/// `patience`, below a second, exits at once with status 0; 0 sets no limit. SIGPIPE is ignored:
+/// when the reader of our output or the display goes away, the write fails, and the program can end
+/// in its usual way.
 void installEndSignals(std::chrono::milliseconds patience = {});
 
 /// Whether one of the signals has come.
 [[nodiscard]] bool endRequested();
 
-/// A descriptor that can be read once a signal has come, and ever after; -1 when there is none.
-/// To wait on, never to read from.
+/// A descriptor that is readable from the first signal on; -1 when there is none. Only to be
+/// polled, never read from.
 [[nodiscard]] int endSignalDescriptor();
 
 } // namespace platform

@@ -8,7 +8,7 @@ BOOL SystemParametersInfoA(UINT action, UINT parameter, LPVOID /*buffer*/, UINT 
     return TRUE;
 }
 
-// Our windows have no border; 1 is its width on a desktop that draws one.
+// The border width of Windows' own windows; ours have none.
 int GetSystemMetrics(int index)
 {
     return index == SM_CXBORDER || index == SM_CYBORDER ? 1 : 0;

@@ -8,14 +8,14 @@ namespace platform {
 
 namespace {
 
-constinit std::vector<HGLRC> contexts; // those that live
+constinit std::vector<HGLRC> contexts; // not deleted yet
 
 bool lives(HGLRC context)
 {
     return std::find(contexts.begin(), contexts.end(), context) != contexts.end();
 }
 
-// A context's handle is the desktop's own.
+// A context's handle is the port's own pointer.
 desktop::NativeContext nativeOf(HGLRC context)
 {
     return reinterpret_cast<desktop::NativeContext>(context);

@@ -1,8 +1,7 @@
 #pragma once
 
-// The Win32 types, constants and calls that the shell uses, under their standard names and
-// values, over today's desktop. docs/platform.md says what each call does here and what it
-// ignores.
+// The Win32 types, constants and functions that the shell uses, with their standard names and
+// values. docs/platform.md says what each function does here and what it ignores.
 
 #include <cstdint>
 
@@ -93,7 +92,7 @@ constexpr int GWL_STYLE = -16;
 constexpr int SW_SHOW = 5;
 inline const HWND HWND_TOPMOST = reinterpret_cast<HWND>(static_cast<std::intptr_t>(-1));
 
-// Resources of the system, named by small numbers.
+// The system's own resources, which have small numbers in place of names.
 inline const LPCSTR IDI_WINLOGO = reinterpret_cast<LPCSTR>(static_cast<std::uintptr_t>(32517));
 inline const LPCSTR IDC_ARROW = reinterpret_cast<LPCSTR>(static_cast<std::uintptr_t>(32512));
 
@@ -118,8 +117,8 @@ constexpr WPARAM WA_INACTIVE = 0;
 constexpr WPARAM WA_ACTIVE = 1;
 constexpr WPARAM SIZE_RESTORED = 0;
 
-// Virtual keys. Letters and digits have the codes of their capitals in ASCII; those of the keypad's
-// digits and of the function keys follow the first one's.
+// Virtual-key codes. Those of letters and digits are their ASCII codes, in upper case; those of the
+// keypad's digits and of the function keys are consecutive.
 constexpr int VK_BACK = 0x08;
 constexpr int VK_TAB = 0x09;
 constexpr int VK_CLEAR = 0x0C;

@@ -18,7 +18,7 @@ struct RegisteredClass {
 };
 
 constinit std::vector<RegisteredClass> classes;
-constinit ATOM nextAtom = 0xC000; // where the atoms of named things begin
+constinit ATOM nextAtom = 0xC000; // the first atom that stands for a string
 
 auto findByName(LPCSTR name)
 {
@@ -59,7 +59,7 @@ BOOL UnregisterClassA(LPCSTR className, HINSTANCE /*instance*/)
     return TRUE;
 }
 
-// The desktop draws no icon and no other pointer for us: the names are handles enough.
+// Nothing is ever drawn from these handles, so the number that names the resource serves.
 HICON LoadIconA(HINSTANCE instance, LPCSTR iconName)
 {
     return instance == nullptr ? reinterpret_cast<HICON>(reinterpret_cast<std::uintptr_t>(iconName))

@@ -4,14 +4,14 @@
 
 namespace platform {
 
-/// What a window needs of its class.
+/// The part of a registered class that its windows need.
 struct WindowClass {
     ATOM atom = 0;
     WNDPROC procedure = nullptr;
 };
 
-/// The registered class of this name, whatever the case of its letters; its atom is 0 when there
-/// is none.
+/// The registered class of this name, compared without regard to case; its atom is 0 when there is
+/// none.
 [[nodiscard]] WindowClass findWindowClass(LPCSTR name);
 
 } // namespace platform

@@ -9,10 +9,10 @@ namespace platform {
 
 namespace {
 
-// Each record stays where it is while others come and go, for procedures make and destroy windows.
+// Behind pointers, so that a record does not move when a window procedure makes or destroys others.
 constinit std::vector<std::unique_ptr<HandleRecord>> records;
 
-// Handles are numbers that are never given twice, so a stale one finds nothing.
+// Handles are numbers that are never reused, so a stale one finds nothing.
 constinit std::uintptr_t lastNumber = 0;
 
 constinit bool pointerShown = true;

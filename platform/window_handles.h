@@ -4,43 +4,43 @@
 
 namespace platform {
 
-/// What stands behind a window handle.
+/// The window behind a window handle.
 struct HandleRecord {
     HWND handle = nullptr;
     ATOM windowClass = 0;
     WNDPROC procedure = nullptr;
     desktop::NativeWindow native = 0;
     DWORD style = 0;
-    desktop::Size toldSize{}; ///< The client size that the procedure last heard of.
+    desktop::Size toldSize{}; ///< The client size in the last WM_SIZE; windows.cpp sets it.
     bool shown = false;
 };
 
-/// Gives a new window a handle, which its record is kept under from now on.
+/// Keeps the record of a new window; returns the handle that it gets.
 HWND addHandle(const HandleRecord& record);
 
-/// Makes the handle stale.
+/// Forgets the record: the handle is stale from now on.
 void removeHandle(HWND handle);
 
-/// The record of a living window, null for any other handle. Whatever runs a window procedure may
-/// end its life.
+/// The record of a window; null for a stale handle. Valid until the window is destroyed, which any
+/// call of a window procedure may do.
 [[nodiscard]] HandleRecord* recordOf(HWND handle);
 
-/// The handle of the window that the desktop knows as `native`; null when there is none.
+/// The handle of the window that the port calls `native`; null when there is none.
 [[nodiscard]] HWND handleOf(desktop::NativeWindow native);
 
-/// The window as the desktop knows it; 0 for a stale handle.
+/// The port's name for the window; 0 for a stale handle.
 [[nodiscard]] desktop::NativeWindow nativeOf(HWND handle);
 
-/// The handle of the window made last of those that live; null when there is none.
+/// The handle of the window that was made last; null when there is none.
 [[nodiscard]] HWND newestHandle();
 
 [[nodiscard]] bool anyHandleOf(ATOM windowClass);
 
-/// Shows or hides the pointer over every window, those that are made later among them. It is shown
-/// until the first call.
+/// Shows or hides the pointer over every window, also over those made later. Before the first call
+/// it is shown.
 void showPointerOverWindows(bool visible);
 
-/// Calls the window's procedure there and then; 0 for a stale handle.
+/// Calls the window's procedure directly, not by way of the queue; 0 for a stale handle.
 LRESULT sendMessage(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
 
 } // namespace platform

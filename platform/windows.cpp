@@ -70,8 +70,8 @@ BOOL ShowWindow(HWND window, int /*command*/)
     record->shown = true;
     const desktop::Size client = record->toldSize;
     sendMessage(window, WM_ACTIVATE, WA_ACTIVE, 0);
-    // Told again although nothing changed: what a procedure sets up by the size, it can set up
-    // once the window is there.
+    // Sent although the size is the same: a procedure may need the window on the screen for what it
+    // sets up by the size.
     record = recordOf(window);
     if (record != nullptr)
         sendSize(*record, client);

@@ -4,7 +4,7 @@
 
 namespace platform {
 
-/// Sends WM_SIZE unless the window's procedure already heard of this size last.
+/// Sends WM_SIZE unless this is the size that the window's procedure was told last.
 void tellSize(HWND handle, desktop::Size client);
 
 } // namespace platform

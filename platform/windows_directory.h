@@ -5,8 +5,8 @@
 namespace platform {
 
 /// The directory that stands for the Windows directory: `wished` unless it is null or empty; else
-/// the first that is there of `windows` beside the executable, as a build leaves it, and the
-/// share/quazo two and one levels up, as an installed or moved tree has it; else `installed`.
+/// the first existing one of `windows` beside the executable, as in a build, and share/quazo two
+/// levels and one level up, as in an installed tree; else `installed`.
 [[nodiscard]] std::filesystem::path windowsDirectory(const char* wished,
                                                      const std::filesystem::path& executable,
                                                      const std::filesystem::path& installed);

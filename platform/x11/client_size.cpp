@@ -12,7 +12,7 @@ void updateClientSize(Display* display, WindowRecord& record)
         return;
     record.client = size;
     record.sizeIsToTell = true;
-    fitPicture(record);
+    fitBackBuffer(record);
 }
 
 } // namespace platform::x11

@@ -4,9 +4,9 @@
 
 namespace platform::x11 {
 
-/// Learns the client size that the server has for the window now, which a ConfigureNotify from
-/// before the last request would not say. When it is new, the kept picture gets it too, before the
-/// program hears of it: what it draws next then has room to the edges.
+/// Asks the server for the window's present size; that in a ConfigureNotify may be older than our
+/// last request. If it changed, the window's framebuffer is resized too, before the program is
+/// told: what the program draws next reaches the edges.
 void updateClientSize(Display* display, WindowRecord& record);
 
 } // namespace platform::x11

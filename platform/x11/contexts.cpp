@@ -13,26 +13,28 @@ namespace {
 
 struct Context {
     GLXContext handle = nullptr;
-    desktop::NativeWindow window = 0; // the last one that it was current on; 0 before the first
-    BackBuffer picture;
+    desktop::NativeWindow window = 0; // where it was current last; 0 before the first time
+    BackBuffer backBuffer;
 };
 
 constinit std::vector<std::unique_ptr<Context>> contexts;
 constinit Context* current = nullptr;
 
-// The picture of a context that was never current before, or else one that fits the window.
-void preparePicture(Context& context, const WindowRecord& window)
+// Creates the framebuffer of a context that becomes current for the first time; resizes that of any
+// other.
+void prepareBackBuffer(Context& context, const WindowRecord& window)
 {
     const desktop::Size size = window.client;
     if (context.window != 0) {
-        context.picture.fit(size);
+        context.backBuffer.fit(size);
         return;
     }
-    // Where none can be had, the program draws on the window's own back buffer. A picture of 8 bits
-    // stops fading at a dim grey, but unlike that it outlives a swap.
+    // In order of preference; where nothing is supported, the program draws on the window's own
+    // back buffer. With 8 bits a channel fading stops at a dim grey. A window whose swaps copy has
+    // 8 bits and keeps its contents without a blit, so it precedes a framebuffer object of 8 bits.
     [[maybe_unused]] const bool kept =
-        context.picture.create(size, GL_RGB16) || context.picture.create(size, GL_RGBA16) ||
-        window.format.swapCopies || context.picture.create(size, GL_RGBA8);
+        context.backBuffer.create(size, GL_RGB16) || context.backBuffer.create(size, GL_RGBA16) ||
+        window.format.swapCopies || context.backBuffer.create(size, GL_RGBA8);
 }
 
 bool isCurrentOn(const WindowRecord& window)
@@ -47,12 +49,12 @@ desktop::NativeContext addContext(const WindowRecord& window)
     Display* const display = connection();
     XErrorTrap trap(display);
     auto context = std::make_unique<Context>();
-    // Made this way, a context has everything since OpenGL 1.0: what is now called compatibility.
+    // glXCreateNewContext gives the compatibility profile, which has immediate mode.
     context->handle =
         glXCreateNewContext(display, window.format.config, GLX_RGBA_TYPE, nullptr, True);
     if (context->handle == nullptr)
         return nullptr;
-    // Over the wire every vertex would be a request.
+    // An indirect context would send every vertex through the X connection.
     if (trap.firstError() != 0 || glXIsDirect(display, context->handle) == False) {
         glXDestroyContext(display, context->handle);
         return nullptr;
@@ -68,7 +70,7 @@ bool selectContext(desktop::NativeContext context, const WindowRecord& window)
     if (glXMakeCurrent(display, window.id, wanted.handle) == False || trap.firstError() != 0)
         return false;
     current = &wanted;
-    preparePicture(wanted, window);
+    prepareBackBuffer(wanted, window);
     wanted.window = window.id;
     return true;
 }
@@ -107,17 +109,17 @@ void forgetContexts()
     contexts.clear();
 }
 
-void fitPicture(const WindowRecord& window)
+void fitBackBuffer(const WindowRecord& window)
 {
     if (isCurrentOn(window))
-        current->picture.fit(window.client);
+        current->backBuffer.fit(window.client);
 }
 
-void presentPicture(const WindowRecord& window)
+void presentBackBuffer(const WindowRecord& window)
 {
     if (!isCurrentOn(window))
         return;
-    current->picture.present();
+    current->backBuffer.present();
     glFlush(); // the driver can draw while we wait
 }
 

@@ -2,31 +2,32 @@
 
 #include "platform/x11/window_table.h"
 
-/// OpenGL contexts, each with the picture that it keeps for its window. All need a connection.
+/// OpenGL contexts, each with the framebuffer (`BackBuffer`) that it draws on for its window. All
+/// functions need an open connection.
 namespace platform::x11 {
 
-/// A direct context, not yet current, with everything since OpenGL 1.0; null when there is none for
-/// the window's format.
+/// Creates a direct context of the compatibility profile for the window's format; null when that
+/// fails.
 [[nodiscard]] desktop::NativeContext addContext(const WindowRecord& window);
 
-/// Makes the context current on the window, whose kept picture is then bound for drawing.
+/// Makes the context current on the window, with its framebuffer bound.
 [[nodiscard]] bool selectContext(desktop::NativeContext context, const WindowRecord& window);
 
 [[nodiscard]] bool anyContextIsCurrent();
 
-/// Leaves no context current.
+/// Makes no context current.
 bool leaveContext();
 
-/// Leaves the context if it is current, and deletes it. False for one that is none.
+/// Deletes the context, which need not be left before. False for one that does not exist.
 [[nodiscard]] bool removeContext(desktop::NativeContext context);
 
-/// Leaves no context current and deletes them all; for before the connection is closed.
+/// Makes no context current and deletes them all, when the connection is about to be closed.
 void forgetContexts();
 
-/// Gives the picture that the current context keeps for this window the window's present size.
-void fitPicture(const WindowRecord& window);
+/// Resizes the framebuffer of the window to the client size, if the current context draws on it.
+void fitBackBuffer(const WindowRecord& window);
 
-/// Copies that picture to the window's back buffer.
-void presentPicture(const WindowRecord& window);
+/// Blits that framebuffer to the window's back buffer.
+void presentBackBuffer(const WindowRecord& window);
 
 } // namespace platform::x11

@@ -4,7 +4,7 @@
 
 namespace platform::x11 {
 
-// An event that is put back goes before all that wait.
+// XPutBackEvent puts an event before all others, so the last one goes first.
 DeferredEvents::~DeferredEvents()
 {
     for (auto event = kept.rbegin(); event != kept.rend(); ++event)
@@ -25,7 +25,8 @@ bool DeferredEvents::take()
     return focused;
 }
 
-// Of moves in a row the last is enough: a mouse that goes on for an hour must not fill the memory.
+// Consecutive moves become one, as they do on Windows: otherwise memory would grow as long as the
+// mouse moves.
 void DeferredEvents::keep(const XEvent& event)
 {
     if (event.type == MotionNotify && !kept.empty() && kept.back().type == MotionNotify)

@@ -6,8 +6,8 @@
 
 namespace platform::x11 {
 
-/// Our windows' events while a message box is open, when the program reads none: kept in their
-/// order, and given back to the connection's queue at the end of this object's life.
+/// Takes the events of our windows while a message box is open and the program reads none. They are
+/// kept in order; the destructor puts them back into the connection's queue.
 class DeferredEvents {
 public:
     explicit DeferredEvents(Display* display) : server(display) {}
@@ -15,8 +15,8 @@ public:
     DeferredEvents(const DeferredEvents&) = delete;
     DeferredEvents& operator=(const DeferredEvents&) = delete;
 
-    /// Takes all that have come, and answers pings. True when a window of ours has got the
-    /// keyboard's focus since the last call.
+    /// Takes the events that have arrived and answers pings. True when one of our windows has got
+    /// the keyboard focus since the last call.
     [[nodiscard]] bool take();
 
 private:

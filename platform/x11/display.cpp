@@ -49,7 +49,7 @@ void prepare(Display* display)
     auto texts = atomTexts;
     XInternAtoms(display, const_cast<char**>(texts.data()), static_cast<int>(atomCount), False,
                  atoms.data());
-    // A key that is held then repeats its press alone: it does not look let go in between.
+    // Auto-repeat of a held key then sends presses only; otherwise each has a release before it.
     XkbSetDetectableAutoRepeat(display, True, nullptr);
 }
 

@@ -5,9 +5,9 @@
 /// The one connection to the X server, its errors and its atoms.
 namespace platform::x11 {
 
-/// Opens the connection, unless it is open; null when there is no server to talk to, which is found
-/// out once. Losing it ends the process at once with status 0: no destructor runs, so nothing calls
-/// OpenGL on a connection that is gone.
+/// Opens the connection unless it is open; null when no server can be reached, which is tried once.
+/// If it is lost, the process exits at once with status 0: no destructor runs, so nothing calls
+/// OpenGL on a lost connection.
 Display* openConnection();
 
 /// The connection if it is open, else null.
@@ -15,15 +15,15 @@ Display* openConnection();
 
 void closeConnection();
 
-/// Is told of every X error of the process, before anything else is done about it.
+/// Is called with every X error of the process, before the error is handled.
 using ErrorObserver = void (*)(const XErrorEvent& error);
 
-/// There is one observer at a time; a new connection begins without.
+/// Sets the observer; there is one at a time, and none on a new connection.
 void observeErrors(ErrorObserver observer);
 
-/// Notes the first X error among the requests made in its scope. Scopes nest; the innermost one
-/// that was open when a request was made gets its error. Errors outside of all scopes are ignored:
-/// they come of windows that others destroyed meanwhile, and the saver can go on.
+/// Records the first X error among the requests made in its scope. Scopes nest; an error belongs to
+/// the innermost one that was open when its request was made. Errors outside of all scopes are
+/// ignored: they come from windows that other programs destroyed, and the saver can go on.
 class XErrorTrap {
 public:
     explicit XErrorTrap(Display* display);
@@ -31,8 +31,8 @@ public:
     XErrorTrap(const XErrorTrap&) = delete;
     XErrorTrap& operator=(const XErrorTrap&) = delete;
 
-    /// The code of the first error so far, 0 for none. Waits for the server to have seen every
-    /// request.
+    /// The code of the first error so far, 0 for none. Waits until the server has processed all
+    /// requests.
     [[nodiscard]] int firstError();
 
 private:

@@ -23,7 +23,7 @@ Message plainMessage(const WindowRecord& record, UINT kind, WPARAM wParam, LPARA
     return {record.id, kind, wParam, lParam, {}, {}};
 }
 
-// `event` is of one of the types that say where the pointer is, which lay it out alike.
+// For all event types with a pointer position, which have the same members for it.
 template <typename Event>
 Message pointerMessage(const WindowRecord& record, UINT kind, const Event& event)
 {
@@ -33,7 +33,8 @@ Message pointerMessage(const WindowRecord& record, UINT kind, const Event& event
     return message;
 }
 
-// A server that cannot repeat a held key's press alone sends a release with each, at the same time.
+// A server without detectable auto-repeat sends a release before each repeated press, with the same
+// time stamp.
 bool isRepeat(const XKeyEvent& release)
 {
     if (XEventsQueued(release.display, QueuedAfterReading) == 0)
@@ -86,7 +87,7 @@ bool onMotion(WindowRecord& record, const XEvent& event, Message& result)
     return true;
 }
 
-// Also what the server sends when the window appears under a pointer at rest.
+// The server also sends this when the window is mapped under a pointer at rest.
 bool onEnter(WindowRecord& record, const XEvent& event, Message& result)
 {
     result = pointerMessage(record, WM_MOUSEMOVE, event.xcrossing);
@@ -135,7 +136,7 @@ bool onClientMessage(WindowRecord& record, const XEvent& event, Message& result)
     return true;
 }
 
-// Somebody else destroyed it: without a window there is nothing left to save.
+// Another program destroyed the window, without which the saver has nothing to do.
 bool onDestroy(WindowRecord& record, const XEvent& /*event*/, Message& result)
 {
     result = plainMessage(record, WM_CLOSE, 0, 0);
@@ -144,7 +145,7 @@ bool onDestroy(WindowRecord& record, const XEvent& /*event*/, Message& result)
 
 struct Translation {
     int eventType;
-    bool (*translate)(WindowRecord&, const XEvent&, Message&); // false: nothing to tell
+    bool (*translate)(WindowRecord&, const XEvent&, Message&); // false: no message
 };
 
 constexpr Translation translations[] = {
@@ -176,8 +177,8 @@ bool translate(XEvent& event, Message& result)
            translation->translate(*record, event, result);
 }
 
-// Told once nothing else waits: of many sizes the last one is enough.
-bool tellSize(Message& result)
+// Reports a size when no event waits any more, so that of several changes only the last is seen.
+bool reportSize(Message& result)
 {
     const auto records = windowRecords();
     const auto resized =
@@ -202,7 +203,7 @@ bool nextMessage(Display* display, Message& result)
         if (translate(event, result))
             return true;
     }
-    return tellSize(result);
+    return reportSize(result);
 }
 
 } // namespace platform::x11

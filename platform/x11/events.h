@@ -6,7 +6,7 @@
 
 namespace platform::x11 {
 
-/// `desktop::nextMessage` of an open connection.
+/// Implements `desktop::nextMessage` for an open connection: translates X events into messages.
 [[nodiscard]] bool nextMessage(Display* display, desktop::Message& result);
 
 } // namespace platform::x11

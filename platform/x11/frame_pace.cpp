@@ -14,7 +14,8 @@ constexpr Nanoseconds shortestPeriod = second / 1000, longestPeriod = second / 2
 using Resources = std::unique_ptr<XRRScreenResources, decltype(&XRRFreeScreenResources)>;
 using Controller = std::unique_ptr<XRRCrtcInfo, decltype(&XRRFreeCrtcInfo)>;
 
-// What the server knows of its monitors without looking for new ones, which would blank them.
+// What the server knows of its monitors. XRRGetScreenResources would make it look for new ones,
+// during which some drivers blank the screen.
 Resources monitorResources(Display* display)
 {
     int event = 0, error = 0, major = 0, minor = 0;
@@ -54,7 +55,7 @@ Nanoseconds framePeriod(const XRRModeInfo& mode)
     if ((mode.modeFlags & RR_DoubleScan) != 0)
         dots *= 2;
     if ((mode.modeFlags & RR_Interlace) != 0)
-        dots /= 2; // each half picture is one of its own
+        dots /= 2; // each field is shown as a frame
     if (mode.dotClock == 0)
         return usualPeriod;
     const Nanoseconds period = dots * second / static_cast<Nanoseconds>(mode.dotClock);

@@ -7,8 +7,8 @@
 
 namespace platform::x11 {
 
-/// How long a picture stands on a monitor in this mode; that of 60 Hz where the mode does not say
-/// or says what no monitor does, as virtual ones do.
+/// The refresh period of a monitor in this mode; that of 60 Hz where the mode does not tell it, or
+/// where it is out of the range of real monitors, as on virtual ones.
 [[nodiscard]] Nanoseconds framePeriod(const XRRModeInfo& mode);
 
 /// The same for the monitor that shows the middle of this area; asks the server.

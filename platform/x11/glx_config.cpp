@@ -71,8 +71,9 @@ bool usable(const FormatTraits& format)
     return format.visualDepth != 0 && format.visualDepth != 32;
 }
 
-// The smaller is the better; what comes first weighs more than all that follows.
-auto cost(const FormatTraits& format)
+// The sort key of a format: the smallest is the best, and an earlier member outweighs all later
+// ones.
+auto sortKey(const FormatTraits& format)
 {
     const int wrongBits =
         std::abs(format.red - 8) + std::abs(format.green - 8) + std::abs(format.blue - 8);
@@ -87,7 +88,7 @@ std::size_t bestFormat(std::span<const FormatTraits> formats)
 {
     const auto best = std::min_element(
         formats.begin(), formats.end(),
-        [](const FormatTraits& a, const FormatTraits& b) { return cost(a) < cost(b); });
+        [](const FormatTraits& a, const FormatTraits& b) { return sortKey(a) < sortKey(b); });
     if (best == formats.end() || !usable(*best))
         return formats.size();
     return static_cast<std::size_t>(best - formats.begin());

@@ -17,12 +17,11 @@ namespace {
 
 constexpr ::Window noWindow = 0;
 
-constinit std::array<char, 64> given{}; // what names the host's window, as it was written
+constinit std::array<char, 64> given{}; // the text that was given for the host's window
 constinit ::Window named = noWindow;
 constinit bool adopted = false;
 
-// The number that the whole of `text` is, in decimal or with 0x in hexadecimal; any other text is
-// no window.
+// The number in `text`, decimal or hexadecimal with 0x; 0 when the text is anything else.
 ::Window windowNumber(std::string_view text)
 {
     const bool hexadecimal = text.starts_with("0x") || text.starts_with("0X");
@@ -40,7 +39,8 @@ void take(const char* text)
     named = windowNumber(text);
 }
 
-// An error that says that the host's window is no more, or one of ours, which go with it.
+// Exits on an error that shows that the host's window is gone, or one of ours, which are its
+// children.
 void endWithHost(const XErrorEvent& error)
 {
     const bool noSuchWindow = error.error_code == BadWindow || error.error_code == BadDrawable;
@@ -87,8 +87,8 @@ void adoptHost(Display* display)
     if (!hosted() || adopted)
         return;
     XErrorTrap trap(display);
-    // Its size and its end. Only these: of most input there can be one listener, and it is the
-    // host.
+    // Its size and its destruction. No input: only one client can select button presses of a
+    // window, and that is the host.
     XSelectInput(display, hostWindow(), StructureNotifyMask);
     if (trap.firstError() != 0) {
         std::fprintf(stderr, "quazo: %s, given by the host, is no window\n", given.data());

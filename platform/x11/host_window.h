@@ -2,29 +2,29 @@
 
 #include <X11/Xlib.h>
 
-/// A host is the program that started us to draw in a window of its own.
+/// The host: a program that started us to draw in one of its windows.
 namespace platform::x11 {
 
-/// Looks for a host's window among the program's arguments and environment, as
-/// `desktop::chooseHost` says, and forgets any earlier one.
+/// Looks for a host's window in the program's arguments and environment, by the rules of
+/// `desktop::chooseHost`.
 void chooseHostWindow(int argumentCount, const char* const* arguments);
 
-/// True when something was given as a host's window.
+/// True when a host's window was given.
 [[nodiscard]] bool hosted();
 
-/// The window that the host named; only meaningful when hosted.
+/// That window; 0 when what was given is no number.
 [[nodiscard]] ::Window hostWindow();
 
-/// Starts to follow the host's window on a new connection, if there is a host; afterwards its end
-/// is ours. Ends the process with status 1, and one line on standard error, when what the host
-/// named is no window.
+/// Selects the events of the host's window on a new connection, if there is a host. From then on
+/// the process exits with status 0 when that window is destroyed. Exits with status 1, after a line
+/// on standard error, when there is no such window.
 void adoptHost(Display* display);
 
-/// Stops following, for before the connection is closed.
+/// Forgets the host's window, when the connection is about to be closed.
 void releaseHost();
 
-/// Deals with what happened to the host's window: its end is ours, its size is our windows'.
-/// False when `event` is about another window.
+/// Handles an event of the host's window: exits when it was destroyed, resizes our windows to its
+/// size. False when `event` belongs to another window.
 [[nodiscard]] bool followHost(const XEvent& event);
 
 } // namespace platform::x11

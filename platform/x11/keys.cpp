@@ -65,8 +65,8 @@ constexpr KeyRange keyRanges[] = {
     {XK_Scroll_Lock, XK_Scroll_Lock, VK_SCROLL},
 };
 
-// The code of what a key gives in one language, `group`: unshifted, or else shifted, as a French
-// keyboard has its digits.
+// The code of a key in one keyboard layout (a group, in X terms): of its unshifted keysym, or else
+// of its shifted one, which is where a French keyboard has its digits.
 int codeInGroup(Display* display, KeyCode key, int group)
 {
     const int code = virtualKeyOf(XkbKeycodeToKeysym(display, key, group, 0));
@@ -90,13 +90,13 @@ int virtualKey(const XKeyEvent& event)
 {
     Display* const display = event.display;
     const auto key = static_cast<KeyCode>(event.keycode);
-    const int language = static_cast<int>(XkbGroupForCoreState(event.state));
+    const int layout = static_cast<int>(XkbGroupForCoreState(event.state));
     // Num Lock turns the keypad's keys into digits.
-    const KeySym second = XkbKeycodeToKeysym(display, key, language, 1);
+    const KeySym second = XkbKeycodeToKeysym(display, key, layout, 1);
     if ((event.state & Mod2Mask) != 0 && XK_KP_Multiply <= second && second <= XK_KP_9)
         return virtualKeyOf(second);
-    // A language without Latin letters leaves the key to one that has them.
-    for (const int group : {language, 0, 1, 2, 3})
+    // Where the active layout has no Latin letter on the key, another layout of the keyboard has.
+    for (const int group : {layout, 0, 1, 2, 3})
         if (const int code = codeInGroup(display, key, group); code != 0)
             return code;
     return 0;

@@ -33,7 +33,7 @@ constexpr std::array<Icon, 2> icons = {{
     {MB_ICONINFORMATION, "i", 41, 98, 181},
 }};
 
-// One of our windows that has been shown; 0 when there is none.
+// A window of ours that is on the screen; 0 when there is none.
 ::Window shownWindow()
 {
     const auto records = windowRecords();
@@ -42,12 +42,12 @@ constexpr std::array<Icon, 2> icons = {{
     return found == records.end() ? 0 : found->id;
 }
 
-// In front of a window that is always on top, as the saver's is, and with the keyboard.
+// A window that stays above the saver's own topmost window and has the keyboard focus.
 class TopmostWindow : public Fl_Window {
 public:
     using Fl_Window::Fl_Window;
 
-    // Only a window that can be seen may have it.
+    // A window that is not viewable yet cannot have the focus.
     void takeKeyboard()
     {
         if (!seen)
@@ -59,12 +59,13 @@ public:
 private:
     int handle(int event) override
     {
-        // The window has been made and does not appear yet: now a manager will read its wishes.
+        // The window exists and is not mapped yet: a manager reads these properties when it is.
         if (event == FL_SHOW) {
             const Atom above = atom(AtomName::netWmStateAbove);
             XChangeProperty(fl_display, fl_xid(this), atom(AtomName::netWmState), XA_ATOM, 32,
                             PropModeReplace, reinterpret_cast<const uchar*>(&above), 1);
-            if (const ::Window saver = shownWindow(); saver != 0) // a click there may raise it
+            if (const ::Window saver = shownWindow();
+                saver != 0) // stays above it when a click raises it
                 XSetTransientForHint(fl_display, fl_xid(this), saver);
         }
         return Fl_Window::handle(event);
@@ -80,7 +81,7 @@ private:
     bool seen = false;
 };
 
-// A text as it stands; a label would take an '@' for the name of a symbol.
+// A plain text; FLTK's labels take an '@' for the start of a symbol's name.
 class PlainText : public Fl_Widget {
 public:
     PlainText(int x, int y, int width, int height, const char* text)
@@ -97,7 +98,7 @@ private:
     }
 };
 
-// Places in the box, in pixels. All but the text's are multiples of the letters' height.
+// Sizes and positions in pixels. Except for the text they are multiples of the font size.
 struct Layout {
     int letter = 0;
     int textWidth = 0, textHeight = 0, bodyHeight = 0;
@@ -136,7 +137,7 @@ public:
     {
         window.end();
         window.xclass("Quazo");
-        window.box(FL_BORDER_BOX); // nobody else draws one where no manager runs
+        window.box(FL_BORDER_BOX); // without a manager nobody else draws a border
         window.color(FL_WHITE);
         message.labelsize(layout.letter);
         button.box(FL_GTK_UP_BOX);
@@ -146,7 +147,7 @@ public:
         showIcon(type & iconBits, 2 * layout.letter);
     }
 
-    // Returns when the box is closed, by whatever.
+    // Returns when the box is closed, by the user or by `endDescriptor`.
     void run(int endDescriptor)
     {
         const VisiblePointer pointer(connection());
@@ -158,7 +159,7 @@ public:
         window.show();
         window.cursor(FL_CURSOR_ARROW);
         button.take_focus();
-        attend(); // to what was read before and makes no descriptor readable
+        attend(); // to events that Xlib has read already: the descriptor is not readable for them
         while (window.shown() != 0)
             Fl::wait();
         Fl::remove_fd(saversDescriptor);
@@ -172,7 +173,8 @@ private:
         Fl::add_fd(descriptor, FL_READ, handler, this);
     }
 
-    // A click beside the box gives the keyboard to the saver's window, where nobody reads it.
+    // A click beside the box gives the focus to the saver's window, which does not read the
+    // keyboard now.
     void attend()
     {
         if (saversEvents.take())
@@ -200,9 +202,10 @@ private:
     Fl_Return_Button button;
 };
 
-// Gives FLTK a connection of its own, so that it takes no event of our windows. Handed one, it
-// leaves the handlers of X errors alone, which are ours. The next box finds it again: it cannot be
-// closed, for FLTK keeps fonts and more of its first connection for good and crashes on another.
+// Gives FLTK a connection of its own, so that it does not take the events of our windows. With a
+// connection that is given, FLTK leaves the X error handlers alone, which are ours. It stays open
+// for the next box: FLTK keeps fonts and other resources of its first connection and crashes on a
+// second.
 bool openToolkit()
 {
     if (fl_display != nullptr)

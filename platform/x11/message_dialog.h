@@ -4,8 +4,8 @@
 
 namespace platform::x11 {
 
-/// Shows `desktop::messageBox`'s box over the connection's windows and returns once it is closed.
-/// False when there is no display for it.
+/// Implements `desktop::messageBox` for an open connection. False when FLTK cannot connect to the
+/// display.
 [[nodiscard]] bool runMessageDialog(const char* text, const char* caption, UINT type,
                                     int endDescriptor);
 

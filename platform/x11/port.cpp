@@ -20,7 +20,7 @@
 #include <cstdio>
 #include <string>
 
-// The port's functions on X11. What a host's window changes is decided here.
+// All functions of the port, on X11. What is different in a host's window is decided here.
 
 namespace platform::x11 {
 
@@ -28,7 +28,7 @@ namespace {
 
 constinit FrameClock frameClock;
 
-// In a host's window nothing of the input is ours: it goes on to the host.
+// In a host's window no input is selected: it propagates to the host.
 constexpr long hostedEvents = StructureNotifyMask;
 constexpr long ownEvents = StructureNotifyMask | PropertyChangeMask | FocusChangeMask |
                            KeyPressMask | KeyReleaseMask | ButtonPressMask | ButtonReleaseMask |
@@ -47,10 +47,10 @@ DesktopArea desktopArea(Display* display)
     return hosted() ? areaOf(display, hostWindow()) : primaryMonitor(display);
 }
 
-// A window is made for one format and knows no other.
+// The one pixel format of a window, that of the visual that it was created with.
 constexpr int onlyFormat = 1;
 
-// The record of a window that OpenGL can draw on; null for any other.
+// The record of a window that OpenGL can draw on, else null.
 WindowRecord* findDrawable(desktop::NativeWindow window)
 {
     WindowRecord* const record = findRecord(window);
@@ -60,8 +60,8 @@ WindowRecord* findDrawable(desktop::NativeWindow window)
 void setPace(Display* display, ::Window window)
 {
     const Nanoseconds period = framePeriod(display, desktopArea(display));
-    // Where a swap waits for the refresh as well, our clock runs a little fast: were it the slower
-    // of the two, every now and then a frame would miss its refresh.
+    // If swaps wait for the refresh, our clock runs slightly fast: were it the slower of the two, a
+    // frame would miss its refresh from time to time.
     const Nanoseconds lead = setSwapInterval(display, window) ? period / 1000 : 0;
     frameClock.setPeriod(period - lead);
 }
@@ -185,7 +185,7 @@ bool placeWindow(NativeWindow window, int x, int y, Size client, bool topmost)
     WindowRecord* const record = findRecord(window);
     if (record == nullptr)
         return false;
-    record->sizeIsToTell = true; // the manager or the host may have given it another
+    record->sizeIsToTell = true; // a manager or a host may decide on another one
     if (hosted())
         return true;
     Display* const display = connection();
@@ -246,7 +246,7 @@ bool swapBuffers(NativeWindow window)
     const WindowRecord* const record = findRecord(window);
     if (record == nullptr)
         return false;
-    presentPicture(*record);
+    presentBackBuffer(*record);
     frameClock.awaitNextFrame();
     glXSwapBuffers(connection(), window);
     return true;

@@ -6,7 +6,8 @@ namespace platform::x11 {
 
 namespace {
 
-// The flag is the ownership of a selection by a window that is never shown: both go with us.
+// The flag is an owned selection. Its owner is a window that is never mapped, which the server
+// destroys with our connection.
 constinit ::Window selectionOwner = 0;
 
 } // namespace
@@ -21,7 +22,7 @@ void setRunningFlag(Display* display, bool running)
         XSetSelectionOwner(display, atom(AtomName::screenSaverRunning), selectionOwner,
                            CurrentTime);
     } else {
-        // Not by clearing the selection: it may be another saver's by now.
+        // The selection itself is not cleared: by now it may be owned by another saver.
         XDestroyWindow(display, selectionOwner);
         selectionOwner = 0;
     }

@@ -4,9 +4,9 @@
 
 namespace platform::x11 {
 
-/// Tells whoever asks the server that a screen saver runs, or no more. Says so and does nothing
-/// else: the desktop's own locking and power saving go on. The server takes the flag back when this
-/// process ends in any way.
+/// Sets or clears a flag on the server that a screen saver is running. Other programs can read it;
+/// the desktop's own locking and power saving are not affected. The server clears it however this
+/// process ends.
 void setRunningFlag(Display* display, bool running);
 
 } // namespace platform::x11

@@ -9,7 +9,7 @@ namespace platform::x11 {
 
 namespace {
 
-// The entry point of a GLX extension, where this screen has the extension.
+// The entry point of a GLX extension; null where this screen does not have the extension.
 template <typename Procedure>
 Procedure glxProcedure(Display* display, const std::string& extension, const char* name)
 {
@@ -23,7 +23,7 @@ Procedure glxProcedure(Display* display, const std::string& extension, const cha
 
 } // namespace
 
-// Three extensions do the same; a driver has one of them or none.
+// Three extensions with the same purpose; a driver has some of them or none.
 bool setSwapInterval(Display* display, ::Window window)
 {
     constexpr int refreshes = 1;

@@ -4,8 +4,8 @@
 
 namespace platform::x11 {
 
-/// Sets the swap interval of the current context's window to 1: a swap waits for the monitor's next
-/// refresh. False where the driver has no swap interval.
+/// Sets the swap interval of the current window to 1: a swap waits for the monitor's next refresh
+/// (vsync). False where the driver does not support swap intervals.
 bool setSwapInterval(Display* display, ::Window window);
 
 } // namespace platform::x11

@@ -50,7 +50,7 @@ void writeProperty(Display* display, ::Window window, AtomName name, Atom type,
                     reinterpret_cast<const unsigned char*>(values.data()), static_cast<int>(count));
 }
 
-// Managers listen to the root window for requests about windows that are shown.
+// Requests about mapped windows are client messages to the root window.
 void sendToManager(Display* display, ::Window window, AtomName type,
                    const std::array<long, 5>& values)
 {
@@ -67,7 +67,7 @@ void sendToManager(Display* display, ::Window window, AtomName type,
 void writeStandardHints(Display* display, ::Window window, const char* title)
 {
     XSizeHints place{};
-    place.flags = USPosition | PPosition; // without it a manager looks for a free spot
+    place.flags = USPosition | PPosition; // without it a manager places the window itself
     XWMHints input{};
     input.flags = InputHint | StateHint;
     input.input = True;
@@ -81,8 +81,8 @@ void writeStandardHints(Display* display, ::Window window, const char* title)
 
 bool managerRuns(Display* display)
 {
-    // The property outlives a manager that crashed, the window it names does not: that one names
-    // itself.
+    // The property outlives a manager that crashed, but the window that it names does not; as proof
+    // that window has the same property, naming itself.
     const ::Window root = DefaultRootWindow(display);
     const Property claim = readProperty(display, root, AtomName::netSupportingWmCheck);
     if (claim.values().empty())
@@ -105,10 +105,10 @@ void describeWindow(Display* display, ::Window window, const char* title)
     constexpr unsigned long decorationsAreSet = 2;
     writeProperty<5>(display, window, AtomName::motifWmHints, atom(AtomName::motifWmHints),
                      {decorationsAreSet, 0, 0, 0, 0});
-    // We cover the screen and draw all of it in every frame: a compositor would only add a copy
-    // and its delay.
+    // We cover the screen and redraw all of it in every frame: a compositor would only add a copy
+    // and a delay.
     writeProperty<1>(display, window, AtomName::netWmBypassCompositor, XA_CARDINAL, {1});
-    // Wished for before the window is shown, so that a manager shows it in its final size at once.
+    // Set before the window is mapped, so that a manager gives it its final size at once.
     writeProperty<2>(display, window, AtomName::netWmState, XA_ATOM,
                      {atom(AtomName::netWmStateAbove), atom(AtomName::netWmStateFullscreen)});
 }

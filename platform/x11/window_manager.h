@@ -2,38 +2,39 @@
 
 #include <X11/Xlib.h>
 
-/// What we say to a window manager, and what one that is not there does not answer.
+/// The protocol with window managers: what we ask of one, what one asks of us, and whether one
+/// runs. (ICCCM and the Extended Window Manager Hints.)
 namespace platform::x11 {
 
 /// Whether a window manager that knows the freedesktop.org hints runs.
 [[nodiscard]] bool managerRuns(Display* display);
 
-/// Gives a window that is not shown yet all that a manager reads when it appears: name, class,
-/// protocols, place, no decorations, and its wish to cover the screen above everything else.
+/// Sets the properties that a manager reads when a window is mapped: name, class, protocols,
+/// position, no decorations, and the request to cover the screen above all other windows.
 void describeWindow(Display* display, ::Window window, const char* title);
 
-/// Wishes for a shown window what describeWindow wished for it before.
+/// Requests for a mapped window that it covers the screen above all others.
 void requestCover(Display* display, ::Window window);
 
-/// Gives a shown window the keyboard's focus: asks the manager to bring it forward with it, or
-/// takes it where no manager runs.
+/// Gives a mapped window the keyboard focus: asks the manager to activate it, or sets the focus
+/// where no manager runs.
 void giveKeyboard(Display* display, ::Window window);
 
-/// The protocol of WM_PROTOCOLS that the manager speaks to a window with this event; 0 when it is
-/// another event.
+/// The protocol in a WM_PROTOCOLS message; 0 for any other event.
 [[nodiscard]] Atom protocolOf(const XEvent& event);
 
-/// Gives a ping of the manager back to it: we are alive. False when `event` is no ping.
+/// Answers the event if it is a ping (_NET_WM_PING), which asks whether we still respond. False
+/// when it is none.
 bool answerPing(const XEvent& event);
 
-/// Whether a window really got or lost the keyboard's focus. A grab only borrows it, and a window
-/// under the pointer is told of a focus that is another's.
+/// Whether the window itself got or lost the keyboard focus. Not so in two cases: a keyboard grab
+/// begins or ends, and the focus follows the pointer (NotifyPointer).
 [[nodiscard]] bool isFocusChange(const XFocusChangeEvent& event);
 
-/// Whether a manager has made an icon of the window (WM_STATE).
+/// Whether the manager has iconified the window (WM_STATE).
 [[nodiscard]] bool isIconic(Display* display, ::Window window);
 
-/// Whether a manager says that nothing of the window can be seen (_NET_WM_STATE).
+/// Whether the manager says that the window is minimised (_NET_WM_STATE_HIDDEN).
 [[nodiscard]] bool isHidden(Display* display, ::Window window);
 
 } // namespace platform::x11

@@ -25,9 +25,9 @@ WindowFormat windowFormat(Display* display)
 {
     XSetWindowAttributes attributes{};
     attributes.colormap = record.colormap;
-    // A visual that is not the parent's takes neither its border nor its background.
+    // A window whose visual is not its parent's must have a border and background of its own.
     attributes.border_pixel = 0;
-    attributes.background_pixel = 0; // black: what stands there until the first frame
+    attributes.background_pixel = 0; // black until the first frame
     attributes.event_mask = request.events;
     return XCreateWindow(display, request.parent, request.place.x, request.place.y,
                          static_cast<unsigned int>(request.client.width),
@@ -36,7 +36,7 @@ WindowFormat windowFormat(Display* display)
                          CWColormap | CWBorderPixel | CWBackPixel | CWEventMask, &attributes);
 }
 
-// What else happens meanwhile stays in Xlib's queue, in its order.
+// Other events stay in Xlib's queue, in order.
 void awaitMapped(Display* display, ::Window window)
 {
     using namespace std::chrono;

@@ -9,45 +9,45 @@
 
 namespace platform::x11 {
 
-/// What we know of a window of ours. A free place has `id` 0.
+/// What we know about a window of ours. A free place in the table has `id` 0.
 struct WindowRecord {
     ::Window id = 0;       ///< The NativeWindow that the port hands out, and the GLX drawable.
-    WindowFormat format{}; ///< A null config: made without GLX, on the default visual.
+    WindowFormat format{}; ///< With a null config where there is no GLX: default visual.
     Colormap colormap = 0;
-    POINT origin{};           ///< The desktop's corner on the root window, when last placed.
-    desktop::Size client;     ///< As the server last said.
-    bool sizeIsToTell = true; ///< The program has not been told `client` since it may have changed.
+    POINT origin{};           ///< The desktop's top left corner on the root window.
+    desktop::Size client;     ///< As the server last reported.
+    bool sizeIsToTell = true; ///< `client` is to be reported to the program.
     bool shown = false;
-    bool pointerHidden = false;          ///< While it is over this window.
-    bool iconic = false, hidden = false; ///< Either one is minimised.
+    bool pointerHidden = false;          ///< While it is over the window.
+    bool iconic = false, hidden = false; ///< Either means minimised.
 };
 
-/// How a window is made.
+/// The parameters of a new window.
 struct WindowRequest {
     ::Window parent = 0;
-    POINT place{}; ///< Of its top left corner in the parent.
+    POINT place{}; ///< Of the top left corner, in the parent.
     desktop::Size client;
-    long events = 0; ///< That it listens to, as an X event mask.
+    long events = 0; ///< The X event mask.
 };
 
-/// Makes a window, not yet shown, in the best format for OpenGL, and its record. Null when there is
-/// no place for it; X errors are the caller's to look at.
+/// Creates a window, not yet mapped, in the best format for OpenGL, and its record. Null when the
+/// table is full; the caller checks for X errors.
 [[nodiscard]] WindowRecord* addWindow(Display* display, const WindowRequest& request);
 
-/// Puts a window on the screen and returns once it is there, or after a second without an answer.
+/// Maps a window and waits for its MapNotify, at most a second.
 void mapWindow(Display* display, ::Window window);
 
-/// Destroys the window and frees its place.
+/// Destroys the window and its record.
 void removeWindow(Display* display, WindowRecord& record);
 
-/// Frees all places, for after the windows went with their connection.
+/// Forgets all records, when the windows are about to go with the connection.
 void forgetWindows();
 
-/// The record of a window that was added and not removed; null for any other. It stays where it is
-/// until then.
+/// The record of a window; null for one that is not in the table. Valid until the window is
+/// removed.
 [[nodiscard]] WindowRecord* findRecord(desktop::NativeWindow window);
 
-/// All places, the free ones too.
+/// All places of the table, the free ones too.
 [[nodiscard]] std::span<WindowRecord> windowRecords();
 
 } // namespace platform::x11
