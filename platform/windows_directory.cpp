@@ -4,11 +4,12 @@
 
 namespace platform {
 
-std::filesystem::path windowsDirectory(const char* wished, const std::filesystem::path& executable,
+std::filesystem::path windowsDirectory(const char* requested,
+                                       const std::filesystem::path& executable,
                                        const std::filesystem::path& installed)
 {
-    if (wished != nullptr && *wished != '\0')
-        return wished;
+    if (requested != nullptr && *requested != '\0')
+        return requested;
     for (const char* place : {"windows", "../../share/quazo", "../share/quazo"}) {
         std::filesystem::path directory = (executable.parent_path() / place).lexically_normal();
         std::error_code unreadable;

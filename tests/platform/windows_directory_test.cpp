@@ -9,11 +9,11 @@ TEST(WindowsDirectory, IsTheFirstPlaceThatIsThere)
 {
     const TemporaryDirectory directory;
     const auto& root = directory.path;
-    const auto found = [&](const char* wished) {
-        return platform::windowsDirectory(wished, root / "a/b/quazo", "/installed");
+    const auto found = [&](const char* requested) {
+        return platform::windowsDirectory(requested, root / "a/b/quazo", "/installed");
     };
     EXPECT_EQ(found(nullptr), "/installed");
-    // From the last to the first to be looked at.
+    // In reverse order of preference.
     for (const char* place : {"a/share/quazo", "share/quazo", "a/b/windows"}) {
         std::filesystem::create_directories(root / place);
         EXPECT_EQ(found(""), root / place);
