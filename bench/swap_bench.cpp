@@ -1,5 +1,5 @@
-// What the kept picture costs a frame: the saver's own frames at 1024 x 768, drawn on the window's
-// back buffer and on ours, without and with the copy to the window, and that copy by itself.
+// The time that our own back buffer takes per frame: the saver's frames at 1024 x 768, drawn on the
+// window's back buffer and on ours, without and with the blit to the window, and that blit alone.
 
 #include "app/gl_window.h"
 #include "app/scene.h"
@@ -19,10 +19,10 @@ constexpr GLuint windowsOwn = 0;
 constexpr int framesPerRun = 128; // two rounds of the caustics
 
 constinit platform::BackBuffer picture;
-constinit GLuint drawTarget = windowsOwn; // the picture's, once it is made
+constinit GLuint drawTarget = windowsOwn; // the framebuffer object, once it exists
 
-/// Draws the same frames whatever ran before; `show` brings each one to the screen. The port's
-/// pace is left out: it would hide every difference.
+/// Draws the same sequence of frames each time; `show` puts each one on the screen. Without the
+/// port's frame clock, which would hide every difference.
 template <typename Show>
 void drawFrames(benchmark::State& state, GLuint target, Show show)
 {
@@ -45,7 +45,7 @@ void frameOnWindowsBuffer(benchmark::State& state)
     drawFrames(state, windowsOwn, swap);
 }
 
-void frameWithoutCopy(benchmark::State& state) // what drawing with 16 bits costs
+void frameWithoutCopy(benchmark::State& state) // the difference that drawing with 16 bits makes
 {
     drawFrames(state, drawTarget, swap);
 }

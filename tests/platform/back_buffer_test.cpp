@@ -26,7 +26,7 @@ void fill(float red, float green, float blue)
     glClear(GL_COLOR_BUFFER_BIT);
 }
 
-// What a driver that exchanges its buffers may leave: anything but the picture.
+// The window's back buffer as a driver that exchanges buffers may leave it: with anything in it.
 void spoilWindowsOwnBuffer()
 {
     GLint drawTarget = 0;
@@ -46,7 +46,7 @@ Pixel pixelAt(int x, int y)
     return read;
 }
 
-/// Everything of the state that showing a picture could touch.
+/// The OpenGL state that creating, resizing and blitting could change.
 std::vector<double> programsState()
 {
     std::vector<double> state;
@@ -65,9 +65,9 @@ std::vector<double> programsState()
 
 TEST_F(BackBuffer, FadesEveryLevelToBlackWhateverTheSwapLeavesBehind)
 {
-    // Half a level of the window's 8 bits, and the halves of 16-bit levels of all frames so far:
-    // 0.5 / (1 - 0.9) of them at most, each of 255 / 65535 of a level. After 80 frames, with 0.06
-    // of a level wanted, only 0 is that near.
+    // Rounding errors: half a level in the window's 8 bits, and in each frame half a level of 16
+    // bits, which sums up to 0.5 / (1 - 0.9) of these, 255 / 65535 of an 8-bit level each. After 80
+    // frames less than 0.06 of a level is expected, so that only 0 is within the tolerance.
     constexpr double tolerance = 0.5 + 5.0 * 255.0 / 65535.0;
     std::array<GLubyte, 256> levels{};
     std::iota(levels.begin(), levels.end(), GLubyte{0});
@@ -92,7 +92,7 @@ TEST_F(BackBuffer, FadesEveryLevelToBlackWhateverTheSwapLeavesBehind)
 TEST_F(BackBuffer, ShowsAllOfThePictureAndTouchesNoState)
 {
     fill(1.0f, 0.0f, 0.0f);
-    // What hinders copies and clears, and an error on top.
+    // State that affects blits and clears, and a pending error.
     glEnable(GL_SCISSOR_TEST);
     glScissor(1, 2, 3, 4);
     glColorMask(GL_FALSE, GL_TRUE, GL_FALSE, GL_FALSE);

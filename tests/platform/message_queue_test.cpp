@@ -21,7 +21,7 @@ TEST_F(MessageQueue, GivesInputInOrderAndTheQuitLastAndOnce)
     EXPECT_TRUE(DestroyWindow(window));
 }
 
-// A program that looks at its keys whenever nothing waits sees each of them down once.
+// takeSent() dispatches one batch, after which the program looks at the state of its keys.
 TEST_F(MessageQueue, HoldsBackATapsReleaseAndNothingElse)
 {
     for (const UINT message : {WM_KEYDOWN, WM_KEYUP, WM_KEYDOWN, WM_KEYUP})
@@ -47,7 +47,7 @@ TEST_F(MessageQueue, SendsASizeAtOnceAndDropsWhatIsForADestroyedWindow)
     play(WM_CLOSE);
     play(WM_CLOSE);
     MSG message{};
-    for (const UINT remove : {0u, PM_REMOVE}) { // only looked at, it is there yet
+    for (const UINT remove : {0u, PM_REMOVE}) { // without PM_REMOVE it stays in the queue
         EXPECT_TRUE(PeekMessageA(&message, nullptr, 0, 0, remove));
         EXPECT_EQ(message.hwnd, other);
     }

@@ -9,12 +9,12 @@
 #include <utility>
 #include <vector>
 
-/// A message and its first parameter; of WM_SIZE the size, and of WM_MOUSEMOVE where GetCursorPos
-/// says that the mouse is.
+/// A message and its wParam; with WM_SIZE the size, and with WM_MOUSEMOVE the position that
+/// GetCursorPos returned.
 using Sent = std::pair<UINT, LPARAM>;
 
-/// A window of 800 x 600, not yet shown, on a fresh headless desktop. Its procedure notes what it
-/// is sent and leaves the rest to DefWindowProcA.
+/// A window of 800 x 600, not yet shown, on a fresh headless desktop. Its procedure records what it
+/// is sent and calls DefWindowProcA.
 class TestWindow : public testing::Test {
 protected:
     TestWindow()
@@ -34,14 +34,14 @@ protected:
         UnregisterClassA("Test", nullptr);
     }
 
-    /// One more of the same class, for which the caller calls DestroyWindow.
+    /// Another window of the same class, which the caller destroys.
     static HWND create()
     {
         return CreateWindowExA(0, "Test", "title", WS_POPUP, 0, 0, 800, 600, nullptr, nullptr,
                                nullptr, nullptr);
     }
 
-    /// Dispatches all that waits; what was sent since the last time, and a quit.
+    /// Dispatches all waiting messages; what was sent since the last call, WM_QUIT included.
     static std::vector<Sent> takeSent()
     {
         MSG message;

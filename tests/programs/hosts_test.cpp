@@ -17,8 +17,8 @@ protected:
     VirtualDisplay display{"1024x768x24"};
     User user;
 
-    /// A window with a visual that is not the default one, and clicks that the host listens to, as
-    /// only one client can.
+    /// A window whose visual is not the default one, and for which the host selects button presses,
+    /// as only one client can.
     Window hostWindow(int x) const
     {
         Display* server = user.connection();

@@ -14,7 +14,7 @@
 
 namespace {
 
-// A fresh screen for each test: nothing of an earlier run can stand on it.
+// Each test has a server of its own, so that nothing of an earlier run is on its screen.
 class Saver : public testing::Test {
 protected:
     VirtualDisplay display{"1024x768x24"};
@@ -87,7 +87,7 @@ TEST_F(Saver, GoesOnThroughWhatIsNoReasonToEnd)
     EXPECT_EQ(saver.wait(), 0);
 }
 
-// Blobs leave black around them, filaments shine, and what moved away has left a dim trail.
+// The picture has black around the blobs, bright filaments, and dim trails.
 TEST_F(Saver, CoversTheScreenButForItsLastRowWithGlowingBlobs)
 {
     ChildProcess saver = quazo({"/S"});
@@ -132,7 +132,7 @@ TEST_F(Saver, ShowsTheFirstTextureWhereThereIsNoMultitexture)
               "quazo: too few texture units: only the first of several textures is shown\n");
 }
 
-// Nobody of this process is connected when the server goes: Xlib would end the test with it.
+// This process must not be connected when the server ends: Xlib would end it too.
 TEST(SaverWithoutServer, GoesWithoutAWord)
 {
     std::optional<VirtualDisplay> display(std::in_place);

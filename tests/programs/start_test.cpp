@@ -16,7 +16,7 @@ protected:
     VirtualDisplay display{"800x600x24"};
     User user;
 
-    /// The box that `program` shows is pressed away with `key`; then its exit status.
+    /// Waits for the box of `program` and closes it with `key`; the exit status.
     std::optional<int> statusAfterBox(ChildProcess& program, KeySym key) const
     {
         EXPECT_TRUE(User::waitUntil([&] { return hasFocus(); })) << program.standardOutput();
@@ -25,7 +25,7 @@ protected:
         return program.wait();
     }
 
-    // The topmost window, and it has the keyboard.
+    // Whether the topmost window is a box and has the focus.
     bool hasFocus() const
     {
         Window focus = 0;

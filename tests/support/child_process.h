@@ -8,14 +8,14 @@
 #include <utility>
 #include <vector>
 
-/// The real program, run from outside. Its output goes to files of its own; it is killed and
-/// reaped with this object, and dies with the test program.
+/// A program that runs as a child process. Its output goes to files of its own. It is killed and
+/// reaped by the destructor, and killed when the test program ends.
 class ChildProcess {
 public:
     using Environment = std::vector<std::pair<std::string, std::string>>;
 
     /// Starts `arguments`, the first being the program's path, with `changes` made to the
-    /// environment; an empty value takes the variable out.
+    /// environment; an empty value unsets the variable.
     explicit ChildProcess(const std::vector<std::string>& arguments,
                           const Environment& changes = {});
     ChildProcess(const ChildProcess&) = delete;

@@ -5,9 +5,8 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// A current OpenGL context that draws for a window that is never shown, on the display that
-/// `DISPLAY` names. Without one there is nothing to go on with: it ends the program with status 1.
-/// Link platform_x11.
+/// A current OpenGL context for a window that is never shown, on the display that `DISPLAY` names.
+/// Exits with status 1 where there is none. Link platform_x11.
 class GlTestContext {
 public:
     explicit GlTestContext(platform::desktop::Size size)

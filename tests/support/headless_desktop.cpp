@@ -23,7 +23,7 @@ struct State {
 
 State state;
 
-/// Writes a request down; false when it is to fail.
+/// Records a request; false when it is to fail.
 template <typename... Parameters>
 bool request(const std::string& name, const Parameters&... parameters)
 {
@@ -74,7 +74,7 @@ std::vector<std::string> takeRequests()
 
 } // namespace headless_desktop
 
-// A function of the port's that does nothing but leave its line.
+// Defines a function of the port that only records its request.
 #define REQUESTED(result, function, signature, ...)                                                \
     result function signature                                                                      \
     {                                                                                              \

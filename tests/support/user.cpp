@@ -10,7 +10,7 @@
 
 namespace {
 
-// A window that is looked at may be gone the next moment.
+// A window may be destroyed while it is examined.
 int ignoreError(Display* /*display*/, XErrorEvent* /*error*/)
 {
     return 0;

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-/// Somebody before the screen that DISPLAY names: looks at it, types and moves the mouse, over an X
-/// connection of their own.
+/// A user of the screen that DISPLAY names: looks at it, types and moves the mouse, over a
+/// connection of its own.
 class User {
 public:
     struct Picture {
@@ -27,10 +27,10 @@ public:
     static bool waitUntil(const std::function<bool()>& condition,
                           std::chrono::milliseconds limit = std::chrono::seconds(20));
 
-    /// The first mapped top-level window of this title, or 0 when none came in time.
+    /// Waits for a mapped top-level window of this title; 0 when none came in time.
     Window waitForWindow(const std::string& title) const;
 
-    /// Those right in `parent`, the lowest first; 0 is the root window.
+    /// The mapped children of `parent` (0: of the root window), bottom-most first.
     std::vector<Window> mappedWindows(Window parent = 0) const;
     XWindowAttributes attributesOf(Window window) const;
     std::string titleOf(Window window) const;

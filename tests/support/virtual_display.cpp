@@ -10,7 +10,7 @@ VirtualDisplay::VirtualDisplay(const char* screen)
     : server({QUAZO_XVFB, "-displayfd", "1", "-screen", "0", screen, "+extension", "GLX",
               "-nolisten", "tcp", "-noreset"})
 {
-    // The server picks a free number and prints it, with a line end, once it listens.
+    // The server chooses a free number and prints it as a line once it accepts connections.
     if (!User::waitUntil([this] { return server.standardOutput().ends_with('\n'); }))
         throw std::runtime_error("no virtual display: " + server.standardError());
     const std::string number = server.standardOutput();

@@ -2,14 +2,14 @@
 
 #include "tests/support/child_process.h"
 
-/// An X server of the test's own, without a screen to look at, which `DISPLAY` names from here on.
-/// Throws `std::runtime_error` when none comes up.
+/// An X server without a real screen, which `DISPLAY` names from here on. Throws
+/// `std::runtime_error` when it does not start.
 class VirtualDisplay {
 public:
-    /// `screen` is width, height and depth in Xvfb's writing.
+    /// `screen` is width, height and depth as Xvfb expects them.
     explicit VirtualDisplay(const char* screen = "1280x1024x24");
 
-    /// Lets the server take its socket and its lock with it.
+    /// Ends the server so that it removes its socket and lock file.
     ~VirtualDisplay();
 
 private:

@@ -37,7 +37,7 @@ bool makesNoContext(const char* screen, int format)
 
 TEST(ContextsDeathTest, MakeDoWithWhatTheDriverHas)
 {
-    // A driver reads its environment once in the life of a process.
+    // A driver reads its environment once per process.
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     const testing::ExitedWithCode success(0);
     EXPECT_EXIT(_exit(drawsWithoutFramebuffers() ? 0 : 1), success, "");

@@ -10,13 +10,13 @@
 
 #include <optional>
 
-/// A real desktop of 1024 by 768 without a window manager, the program's side of the port, and a
-/// user before the screen.
+/// An X server with a screen of 1024 x 768 and no window manager, the port connected to it, and a
+/// user.
 class DesktopFixture : public testing::Test {
 protected:
     static constexpr platform::desktop::Size screen{1024, 768};
 
-    // The port goes last but before its server, whose loss would end this process as a success.
+    // Disconnects before the server goes: a lost connection would exit this process with status 0.
     ~DesktopFixture() override { platform::desktop::disconnect(); }
 
     /// Opens and shows a window of 800 by 600 as the program does.
@@ -30,8 +30,8 @@ protected:
         return window;
     }
 
-    /// The next message of either kind; those before it are lost. Its kind is 0 when none came in
-    /// time.
+    /// The next message of either kind; those before it are dropped. Its kind is 0 when none came
+    /// in time.
     static platform::desktop::Message next(UINT kind, UINT otherKind = 0)
     {
         platform::desktop::Message message;
@@ -44,7 +44,7 @@ protected:
         return hasCome ? message : platform::desktop::Message{};
     }
 
-    /// Starts a window manager. The program's side is connected from here on.
+    /// Starts a window manager and connects the port.
     void manage()
     {
         using namespace platform::x11;

@@ -31,7 +31,7 @@ TEST_F(Events, TellNoActivationByAGrabOrAFocusThatIsAnothers)
     user.press(XK_a);
     EXPECT_EQ(next(WM_ACTIVATE, WM_KEYDOWN).message, WM_KEYDOWN);
     XSetInputFocus(server, PointerRoot, RevertToNone, CurrentTime);
-    user.press(XK_b);                                              // comes by the pointer
+    user.press(XK_b); // goes to the window under the pointer
     EXPECT_EQ(next(WM_ACTIVATE, WM_KEYDOWN).message, WM_ACTIVATE); // the focus is lost
     EXPECT_EQ(next(WM_ACTIVATE, WM_KEYDOWN).message, WM_KEYDOWN);
 }

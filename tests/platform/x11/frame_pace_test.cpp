@@ -20,7 +20,7 @@ TEST(FramePace, HasThePeriodOfTheMode)
     EXPECT_EQ(period(346'500'000, 2080, 1157), 6'945'339);
     EXPECT_EQ(period(74'250'000, 2200, 1125, RR_Interlace), usual);
     EXPECT_EQ(period(25'200'000, 800, 262, RR_DoubleScan), 16'634'920);
-    EXPECT_EQ(period(0, 2200, 1125), usual); // of no known rate, or none worth keeping to
+    EXPECT_EQ(period(0, 2200, 1125), usual); // of no known rate, or out of range
     EXPECT_EQ(period(148'500'000, 0, 0), usual);
     EXPECT_EQ(period(2'475'000, 2200, 1125), usual);
 }

@@ -28,8 +28,8 @@ TEST_F(HostWindow, IsNamedByTheArgumentBeforeTheEnvironmentAndIsTheDesktop)
         EXPECT_EQ(desktop, size) << argument;
         setScreenSaverRunning(true);
         XSync(platform::x11::connection(), False);
-        EXPECT_EQ(isSet(), size == screen); // in its window the host says so
-        disconnect();                       // which is all that a killed process does
+        EXPECT_EQ(isSet(), size == screen); // in a host's window the host does that
+        disconnect();                       // as when the process is killed
         EXPECT_TRUE(User::waitUntil([&] { return !isSet(); }));
     }
 }

@@ -9,7 +9,7 @@ using Keys = DesktopFixture;
 
 TEST_F(Keys, AreKnownInAnyLanguage)
 {
-    // What one key gives, unshifted and shifted, in two languages; and its virtual key.
+    // The keysyms of a key, unshifted and shifted, in two layouts; and its virtual key.
     struct {
         KeySym symbols[4];
         WPARAM code;
@@ -32,7 +32,7 @@ TEST_F(Keys, AreKnownInAnyLanguage)
         XSync(server, False);
         EXPECT_EQ(next(WM_KEYDOWN).wParam, code);
         EXPECT_EQ(next(WM_KEYUP).wParam, code);
-        XSync(platform::x11::connection(), False); // only the first key makes Xlib hear of changes
+        XSync(platform::x11::connection(), False); // Xlib reads changes of the mapping only now
     }
     user.hold(XK_Alt_L, true);
     user.press(XK_F4);

@@ -22,7 +22,7 @@ protected:
         return focused;
     }
 
-    /// Its attributes, with the place on the screen.
+    /// The attributes of a window, with its position on the screen.
     XWindowAttributes placeOf(Window window) const
     {
         XWindowAttributes place = user.attributesOf(window);
@@ -31,8 +31,8 @@ protected:
         return place;
     }
 
-    /// Forks a program that covers the screen, shows a box, and ends with success if a click that
-    /// came meanwhile has or has not waited for it, as `clicked` says.
+    /// Forks a program that covers the screen and shows a box. Its status is 0 if after the box it
+    /// gets a click on its window (`clicked`), or gets none.
     pid_t startProgram(bool clicked)
     {
         const pid_t program = fork();
@@ -60,7 +60,7 @@ protected:
     }
 };
 
-/// Whether a box shows a line of letters, to the right of its icon.
+/// Whether the box shows a line of letters to the right of its icon.
 bool showsLetters(const User& user, const XWindowAttributes& box)
 {
     constexpr int left = 65, width = 150, height = 60;
@@ -69,7 +69,7 @@ bool showsLetters(const User& user, const XWindowAttributes& box)
     for (int x = left; x < left + width; ++x)
         for (int y = 0; y < height; ++y)
             dark += picture.brightness(box.x + x, box.y + y) < 100 ? 1 : 0;
-    // Of one letter there are about a hundred; all are dark while the saver covers the box.
+    // A letter has about a hundred dark pixels; where the saver covers the box, all are dark.
     return dark > 300 && dark < width * height / 2;
 }
 
