@@ -29,7 +29,7 @@ public:
     WindowScope(const WindowScope&) = delete;
     WindowScope& operator=(const WindowScope&) = delete;
 
-    const bool opened;
+    bool opened;
 };
 
 /// What the system takes to load the program and to end it: a command line that it quits on.
@@ -41,8 +41,10 @@ void processStart(benchmark::State& state)
 
 void openAndCloseWindow(benchmark::State& state)
 {
-    while (state.KeepRunning())
-        benchmark::DoNotOptimize(WindowScope().opened);
+    while (state.KeepRunning()) {
+        WindowScope window;
+        benchmark::DoNotOptimize(window.opened);
+    }
 }
 
 void loadDataSet(benchmark::State& state)
