@@ -2,6 +2,7 @@
 
 #include "app/camera.h"
 #include "app/window_procedure.h"
+#include "zrk/shaders/texture_units.h"
 
 constinit GlWindow glWindow;
 
@@ -98,6 +99,7 @@ bool openGlWindow(const char* title, int width, int height, int colorBits)
         return giveUp("Can't Create A GL Rendering Context.");
     if (!wglMakeCurrent(glWindow.deviceContext, glWindow.renderingContext))
         return giveUp("Can't Activate The GL Rendering Context.");
+    zrk::beginContext();
     ShowWindow(glWindow.window, SW_SHOW);
     SetForegroundWindow(glWindow.window);
     SetFocus(glWindow.window);

@@ -40,6 +40,15 @@ Renderer::~Renderer()
     SDL_Quit();
 }
 
+void Renderer::forgetContext()
+{
+    multitextureAvailable = false;
+    glActiveTextureARB = nullptr;
+    textureUnits = 1;
+    unitSwitched = false;
+    severalUnitsUsed = false;
+}
+
 void Renderer::selectUnit(std::uint32_t unit)
 {
     if (!multitextureAvailable)

@@ -29,6 +29,10 @@ public:
     /// Calls `SDL_Quit`. Nothing initialises SDL: its surfaces and image decoders do not need it.
     ~Renderer();
 
+    /// Returns to the values of a new renderer, for a new OpenGL context: no multitexture, and unit
+    /// 0 selected.
+    void forgetContext();
+
     /// Selects the texture unit that texture calls address, 0 being the first. Does nothing while
     /// multitexture is not available. Only this function selects units.
     void selectUnit(std::uint32_t unit);

@@ -9,7 +9,6 @@
 #include "zrk/library_data.h"
 #include "zrk/renderer.h"
 #include "zrk/shaders/blend_layer.h"
-#include "zrk/shaders/texture_units.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -60,9 +59,6 @@ protected:
     {
         std::destroy_at(&zrk::libraryData);
         std::construct_at(&zrk::libraryData);
-        std::destroy_at(&zrk::renderer);
-        std::construct_at(&zrk::renderer);
-        zrk::glCaches = {};
         headless_desktop::reset();
         gl_recorder::reset();
         cursorTravel = {};
@@ -232,6 +228,7 @@ TEST_F(Shell, QuitsWhenAskedTo)
     play(WM_CLOSE);
     play(WM_KEYDOWN, 256); // no key
     play(WM_KEYDOWN, 'A'); // all that waits is handled before the quit
+    zrk::renderer.glActiveTextureARB = gl_recorder::activeTexture; // of an earlier context
     EXPECT_EQ(run(), 0u);
     EXPECT_TRUE(keyDown['A']);
     EXPECT_EQ(zrk::renderer.glActiveTextureARB, nullptr);

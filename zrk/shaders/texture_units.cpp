@@ -39,6 +39,12 @@ void switchUnits(std::uint32_t mask, std::uint32_t changed)
 
 } // namespace
 
+void beginContext()
+{
+    renderer.forgetContext();
+    glCaches = {.shortageReported = glCaches.shortageReported}; // reported once per process
+}
+
 void setTextureUnits(std::uint32_t mask)
 {
     // The mask is noted in every case, also where 3 after 1 means the same to a single unit.

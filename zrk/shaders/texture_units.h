@@ -27,6 +27,11 @@ struct GlCaches {
 /// State of the one OpenGL context. Only the functions below change it.
 extern constinit GlCaches glCaches;
 
+/// Resets the caches and what the `renderer` knows to the initial state of OpenGL. Call it whenever
+/// a new context has become current. Textures and shaders loaded for an earlier context stay what
+/// they are and must be loaded anew.
+void beginContext();
+
 /// Enables texturing on the units in `mask` (bit i is unit i; only units 0 and 1 count) and
 /// disables it on the others. Without multitexture any non-zero mask enables the single unit.
 /// Switching unit 1 on leaves it selected unless unit 0 changes too; every other change leaves unit

@@ -60,9 +60,7 @@ struct MixedPool : LoadedPool {
                      "1 linear linear repeat repeat decal 0 0 0 0 "
                      "1 linear linear repeat repeat decal 0 0 0 0\n}\n")
     {
-        glCaches = {.shortageReported = glCaches.shortageReported};
-        std::destroy_at(&renderer);
-        std::construct_at(&renderer);
+        beginContext();
         renderer.multitextureAvailable = units > 1;
         renderer.glActiveTextureARB = units > 1 ? gl_recorder::activeTexture : nullptr;
         renderer.textureUnits = units;
@@ -75,7 +73,7 @@ struct MixedPool : LoadedPool {
         gl_recorder::reset();
     }
 
-    ~MixedPool() { renderer.multitextureAvailable = false; }
+    ~MixedPool() { beginContext(); }
 };
 
 const std::string sendLit =
