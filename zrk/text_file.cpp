@@ -1,36 +1,14 @@
 #include "zrk/text_file.h"
 
 #include <cassert>
-#include <cerrno>
+#include <cstdint>
 
 namespace zrk {
 
-namespace {
-
-// On POSIX systems opening a directory succeeds; reading from it fails with EISDIR.
-bool isDirectory(std::FILE* file)
-{
-    errno = 0;
-    const int first = std::getc(file);
-    if (first == EOF)
-        return errno == EISDIR;
-    std::ungetc(first, file);
-    return false;
-}
-
-} // namespace
-
 OwnedFile openTextFile(const char* fileName)
 {
-    OwnedFile file(fileName != nullptr ? std::fopen(fileName, "r") : nullptr);
-    if (file && isDirectory(file.get()))
-        file.reset();
-    return file;
-}
-
-bool closeFile(OwnedFile file)
-{
-    return std::fclose(file.release()) == 0;
+    constexpr std::uint64_t mostBytes = 4 << 20;
+    return openRegularFile(fileName, mostBytes);
 }
 
 int readCharacter(std::FILE* file)

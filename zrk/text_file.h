@@ -1,7 +1,8 @@
 #pragma once
 
+#include "zrk/regular_file.h"
+
 #include <cstdio>
-#include <memory>
 #include <span>
 
 namespace zrk {
@@ -9,20 +10,9 @@ namespace zrk {
 // Text files, with CR LF read as LF on every system. A carriage return without a line feed is an
 // ordinary character.
 
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-
-/// Owns an open file. Its destructor ignores a failure to close; `closeFile` reports it.
-using OwnedFile = std::unique_ptr<std::FILE, CloseFile>;
-
-/// Opens `fileName` for reading. Returns null for a null name, a directory, and a file that cannot
-/// be opened.
+/// Opens the text file `fileName` as `openRegularFile` does. Files of more than 4 MiB are refused:
+/// they bound the memory and the time that a load can take.
 [[nodiscard]] OwnedFile openTextFile(const char* fileName);
-
-/// Closes `file`, which must not be null. Returns false if closing failed; the file is gone either
-/// way.
-[[nodiscard]] bool closeFile(OwnedFile file);
 
 /// Returns the next character, or EOF at the end of the file and after a read error; `ferror`
 /// tells which.

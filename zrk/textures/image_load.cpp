@@ -1,6 +1,6 @@
 #include "zrk/textures/image_load.h"
 
-#include "zrk/text_file.h"
+#include "zrk/regular_file.h"
 #include "zrk/textures/resample.h"
 
 #include <SDL_image.h>
@@ -18,7 +18,7 @@ namespace {
 // reads the same bytes for ever. So walk the chunks up to the first IDAT before decoding.
 bool isPngWithoutImage(const char* name)
 {
-    const OwnedFile file(std::fopen(name, "rb"));
+    const OwnedFile file = openRegularFile(name);
     unsigned char bytes[8];
     if (!file || std::fread(bytes, 1, 8, file.get()) != 8 ||
         std::memcmp(bytes, "\x89PNG\r\n\x1a\n", 8) != 0)
