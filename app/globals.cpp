@@ -1,5 +1,6 @@
 #include "app/camera.h"
 #include "app/metaball_motion.h"
+#include "app/out_of_memory.h"
 #include "surface/metaball_surface.h"
 #include "surface/view_frustum.h"
 #include "zrk/library_data.h"
@@ -9,6 +10,10 @@
 // The long-lived objects, constructed from top to bottom before the entry runs and destroyed from
 // bottom to top after it returns. They are defined in one file because the order across several
 // files is not defined.
+
+namespace {
+const bool outOfMemoryHandled = handleOutOfMemory(); // the objects below allocate already
+}
 
 Camera camera;
 constinit Frustum& viewFrustum = camera.frustum; // all that surfaces see of the camera

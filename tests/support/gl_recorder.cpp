@@ -13,6 +13,7 @@ namespace {
 
 struct Recorder {
     std::vector<std::string> calls;
+    bool paused = false;
     std::map<GLenum, GLint> integers;
     std::array<GLfloat, 4> envColor{};
     std::string extensions;
@@ -76,7 +77,8 @@ std::string listOf(const GLfloat* values, int count)
 template <typename... Parameters>
 void record(const char* function, const Parameters&... parameters)
 {
-    recorder.calls.push_back(callText(function, parameters...));
+    if (!recorder.paused)
+        recorder.calls.push_back(callText(function, parameters...));
 }
 
 /// Keeps a value that OpenGL is given, to answer it when asked.
@@ -111,6 +113,11 @@ void reset()
 const std::vector<std::string>& calls()
 {
     return recorder.calls;
+}
+
+void pause()
+{
+    recorder.paused = true;
 }
 
 std::vector<std::string> takeCalls()

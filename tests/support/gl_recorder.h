@@ -17,6 +17,9 @@ void reset();
 const std::vector<std::string>& calls();
 std::vector<std::string> takeCalls();
 
+/// Records nothing until `reset`: no call is worth the memory that its text takes.
+void pause();
+
 /// Adds a line of the test's own, to see it in order with the calls.
 void note(const std::string& line);
 

@@ -17,6 +17,7 @@ struct State {
     POINT pointer{};
     std::deque<Message> script;
     std::set<std::string> failing;
+    std::size_t untilFailure = 0; // 0: none is to fail
     std::vector<std::string> requests;
     std::uintptr_t newestWindow = 0, newestContext = 0;
 };
@@ -28,7 +29,8 @@ template <typename... Parameters>
 bool request(const std::string& name, const Parameters&... parameters)
 {
     state.requests.push_back(callText(name, parameters...));
-    return !state.failing.contains(name);
+    const bool fails = state.untilFailure != 0 && --state.untilFailure == 0;
+    return !fails && !state.failing.contains(name);
 }
 
 std::uintptr_t numberOf(NativeContext context)
@@ -65,6 +67,11 @@ void resize(Size client)
 void fail(const std::string& name)
 {
     state.failing.insert(name);
+}
+
+void failAt(std::size_t ordinal)
+{
+    state.untilFailure = ordinal;
 }
 
 std::vector<std::string> takeRequests()

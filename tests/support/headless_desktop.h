@@ -2,6 +2,7 @@
 
 #include "platform/desktop.h"
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -27,5 +28,8 @@ void fail(const std::string& name);
 
 /// The calls since `reset` or the last `takeRequests`, in order, without those of `nextMessage`.
 std::vector<std::string> takeRequests();
+
+/// The `ordinal`-th request after `reset` fails as well; 1 is the first.
+void failAt(std::size_t ordinal);
 
 } // namespace headless_desktop
