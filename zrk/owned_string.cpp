@@ -49,6 +49,12 @@ String& String::operator+=(const char* text)
     return *this;
 }
 
+void String::swap(String& other)
+{
+    std::swap(size, other.size);
+    data.swap(other.data);
+}
+
 void String::clear()
 {
     *this = "";

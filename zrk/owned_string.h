@@ -21,6 +21,8 @@ public:
 
     void clear();
 
+    void swap(String& other);
+
     const char* cString() const { return data.get(); }
 
     /// Number of bytes including the terminating NUL: 1 for "".

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <sys/stat.h>
 
 TEST(TextFile, GivesLinesOfATextModeStream)
 {
@@ -26,4 +27,16 @@ TEST(TextFile, GivesLinesOfATextModeStream)
             lines += line.data() + std::string("|");
         EXPECT_EQ(lines, expected);
     }
+}
+
+TEST(TextFile, IsARegularFileOfAtMostFourMebibytes)
+{
+    const TemporaryDirectory directory;
+    directory.write("large", std::string(1 << 22, ' '));
+    EXPECT_NE(zrk::openTextFile("large"), nullptr);
+    directory.write("larger", std::string((1 << 22) + 1, ' '));
+    ASSERT_EQ(mkfifo("fifo", 0600), 0); // nobody writes to it, and nobody waits for that
+    for (const char* name : {"larger", "fifo", "missing", ".", "/dev/zero", ""})
+        EXPECT_EQ(zrk::openTextFile(name), nullptr) << name;
+    EXPECT_EQ(zrk::openTextFile(nullptr), nullptr);
 }

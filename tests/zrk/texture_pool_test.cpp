@@ -21,7 +21,16 @@ struct PoolFile {
 const std::string loaded = "0 Successfully loaded `pool'\n", warning = " Undefined warning\n";
 const std::string noImage = "Error: cannot load image '";
 const std::string notClosed = "2 Error closing file `unclosable'\n";
+std::string repeated(int times, const std::string& line)
+{
+    std::string lines;
+    while (times-- > 0)
+        lines += line;
+    return lines;
+}
+
 const PoolFile poolFiles[] = {
+    {"ManyTextures", "3000\n" + repeated(3000, "colour.ppm mask\n"), loaded, "mask 32"},
     {"CarriageReturnsAndARest", " +1 texture\r\ngrey.pgm\r\nnever read", loaded, "32"},
     {"OptionsOfAnIntensityImage", "1\ngrey.pgm grey,mask, mipmap ,mask\n", loaded,
      "mipmap mask grey 8"},

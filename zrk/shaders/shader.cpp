@@ -25,7 +25,7 @@ Shader& Shader::operator=(const Shader& other)
     std::ranges::copy(other.layers(), pointers.get());
     name = other.name; // the last step that may fail
     layerPointers = std::move(pointers);
-    layerCount = other.layerCount;
+    layerCount = layerCapacity = other.layerCount;
     hasBlend = other.hasBlend;
     hasTexture = other.hasTexture;
     hasColor = other.hasColor;
@@ -35,20 +35,27 @@ Shader& Shader::operator=(const Shader& other)
 LayerKind Shader::addLayer(std::unique_ptr<ShaderLayer> layer)
 {
     ShaderLayer& added = *layer;
-    // Both allocations come before any change. The registry's is the second, so that it never owns
-    // a layer which no shader lists.
-    std::unique_ptr<ShaderLayer*[]> longer = newArray<ShaderLayer*>(layerCount + 1);
-    std::ranges::copy(layers(), longer.get());
-    longer[layerCount] = &added;
+    // First the room and then the registry, so that it never owns a layer that no shader lists.
+    if (layerCount == layerCapacity)
+        growLayers();
     layerRegistry.add(std::move(layer));
-    layerPointers = std::move(longer);
-    ++layerCount;
+    layerPointers[layerCount++] = &added;
 
     const LayerKind kind = added.kind();
     hasBlend |= kind == LayerKind::blend;
     hasTexture |= kind == LayerKind::texture;
     hasColor |= kind == LayerKind::color;
     return kind;
+}
+
+// Doubled: one more at a time would copy every pointer once for each that follows it.
+void Shader::growLayers()
+{
+    const std::uint32_t newCapacity = 2 * layerCapacity + 1;
+    std::unique_ptr<ShaderLayer*[]> longer = newArray<ShaderLayer*>(newCapacity);
+    std::ranges::copy(layers(), longer.get());
+    layerPointers = std::move(longer);
+    layerCapacity = newCapacity;
 }
 
 void Shader::apply() const

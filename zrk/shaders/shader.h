@@ -40,7 +40,10 @@ public:
     std::span<ShaderLayer* const> layers() const { return {layerPointers.get(), layerCount}; }
 
 private:
+    void growLayers();
+
     std::uint32_t layerCount = 0;
+    std::uint32_t layerCapacity = 0;
     std::unique_ptr<ShaderLayer*[]> layerPointers;
 };
 

@@ -114,6 +114,16 @@ std::uint32_t Texture::upload()
     return glName;
 }
 
+void Texture::swap(Texture& other)
+{
+    std::swap(glName, other.glName);
+    surface.swap(other.surface);
+    fileName.swap(other.fileName);
+    std::swap(mipmap, other.mipmap);
+    std::swap(mask, other.mask);
+    std::swap(grey, other.grey);
+}
+
 void Texture::freeSurface()
 {
     surface.reset();

@@ -45,6 +45,9 @@ public:
     /// call caused it, is reported on standard error and ends the process with status -1.
     std::uint32_t upload();
 
+    /// Exchanges everything with `other`.
+    void swap(Texture& other);
+
     /// Frees the surface, if there is one; `glName` stays.
     void freeSurface();
 

@@ -69,19 +69,6 @@ public:
             std::clamp(std::strtoll(line.data(), nullptr, 10), 0LL, most));
     }
 
-    /// Upper bound of the lines left: a line has at least one byte. Unbounded for a stream that
-    /// cannot seek.
-    std::uint32_t mostLinesLeft() const
-    {
-        constexpr long most = std::numeric_limits<std::int32_t>::max();
-        const long position = std::ftell(file);
-        if (position < 0 || std::fseek(file, 0, SEEK_END) != 0)
-            return std::numeric_limits<std::uint32_t>::max();
-        const long bytes = std::ftell(file) - position;
-        std::fseek(file, position, SEEK_SET);
-        return static_cast<std::uint32_t>(std::clamp(bytes, 0L, most));
-    }
-
     bool failed() const { return std::ferror(file) != 0; }
 
 private:
@@ -124,16 +111,19 @@ std::int32_t readTextures(PoolReader& reader, TexturePool& pool, std::ostream* l
     const std::uint32_t announced = reader.lineCount();
     if (announced == 0)
         return noTextures;
-    // Allocate at most one texture per remaining line: the announced count may lie.
-    pool.resize(std::min(announced, reader.mostLinesLeft()));
-    for (std::uint32_t i = 0; i < pool.count; ++i) {
+    // Memory follows the lines that are read: the announced count may lie.
+    constexpr std::uint32_t firstTextures = 1024;
+    pool.resize(std::min(announced, firstTextures));
+    for (std::uint32_t i = 0; i < announced; ++i) {
+        if (i == pool.count)
+            pool.grow(announced);
         if (!reader.nextLine())
             return reader.failed() ? readError : tooFewLines;
         if (const std::int32_t result = readTexture(reader, pool.textures[i], log);
             result != loaded)
             return result;
     }
-    return pool.count == announced ? loaded : tooFewLines;
+    return loaded;
 }
 
 } // namespace
@@ -169,6 +159,16 @@ void TexturePool::resize(std::uint32_t newCount)
     textures.reset();
     if (newCount != 0)
         textures = newArray<Texture>(newCount);
+    count = newCount;
+}
+
+void TexturePool::grow(std::uint32_t mostTextures)
+{
+    const std::uint32_t newCount = std::min(mostTextures, 2 * count);
+    std::unique_ptr<Texture[]> longer = newArray<Texture>(newCount);
+    for (std::uint32_t i = 0; i < count; ++i)
+        longer[i].swap(textures[i]);
+    textures = std::move(longer);
     count = newCount;
 }
 
