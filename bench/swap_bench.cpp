@@ -90,6 +90,7 @@ int main(int argumentCount, char** arguments)
     glGetIntegerv(GL_DRAW_FRAMEBUFFER_BINDING, &bound);
     drawTarget = static_cast<GLuint>(bound);
     startScene();
+    SwapBuffers(glWindow.deviceContext); // which puts the window on the screen
     benchmark::RunSpecifiedBenchmarks();
     closeGlWindow();
     platform::desktop::disconnect();

@@ -62,7 +62,9 @@ void disconnect();
 [[nodiscard]] NativeWindow createWindow(const char* title, int x, int y, Size client);
 [[nodiscard]] bool destroyWindow(NativeWindow window);
 
-/// Shows the window and returns once it is on the screen, or after a second without an answer.
+/// Shows the window, raises it, gives it the keyboard focus. The window appears with its first
+/// frame, which the next `swapBuffers` shows: nothing covers the screen before there is something
+/// to see. Raising and focus are done then.
 void showWindow(NativeWindow window);
 void raiseWindow(NativeWindow window);
 void focusWindow(NativeWindow window);

@@ -5,14 +5,20 @@
 
 namespace platform::x11 {
 
-void updateClientSize(Display* display, WindowRecord& record)
+void setClientSize(WindowRecord& record, desktop::Size size)
 {
-    const desktop::Size size = sizeOf(display, record.id);
-    if (size == desktop::Size{} || size == record.client)
+    if (size == record.client)
         return;
     record.client = size;
     record.sizeIsToTell = true;
     fitBackBuffer(record);
+}
+
+void updateClientSize(Display* display, WindowRecord& record)
+{
+    const desktop::Size size = sizeOf(display, record.id);
+    if (size != desktop::Size{}) // it has not been destroyed
+        setClientSize(record, size);
 }
 
 } // namespace platform::x11

@@ -124,7 +124,8 @@ bool onProperty(WindowRecord& record, const XEvent& event, Message& result)
 
 bool onConfigure(WindowRecord& record, const XEvent& event, Message& /*result*/)
 {
-    updateClientSize(event.xany.display, record);
+    if (record.shown || hosted()) // before it is mapped, a size may be an outdated one
+        updateClientSize(event.xany.display, record);
     return false;
 }
 

@@ -66,6 +66,32 @@ void setPace(Display* display, ::Window window)
     frameClock.setPeriod(period - lead);
 }
 
+// Does something to a window if it is mapped, else once it is.
+template <typename Action>
+void onceShown(::Window window, bool MapRequests::*request, Action action)
+{
+    WindowRecord* const record = findRecord(window);
+    if (record == nullptr || hosted())
+        return;
+    record->requests.*request = true;
+    if (record->shown)
+        action(connection(), window);
+}
+
+// A manager may have given the window another size by then, which its first frame has to fill.
+void putOnScreen(Display* display, WindowRecord& record)
+{
+    record.shown = true;
+    mapWindow(display, record.id);
+    if (record.requests.raise)
+        XRaiseWindow(display, record.id);
+    if (record.requests.cover)
+        requestCover(display, record.id);
+    if (record.requests.focus)
+        giveKeyboard(display, record.id);
+    updateClientSize(display, record);
+}
+
 void printInOneLine(std::string text)
 {
     std::replace(text.begin(), text.end(), '\n', ' ');
@@ -161,23 +187,18 @@ bool destroyWindow(NativeWindow window)
 
 void showWindow(NativeWindow window)
 {
-    WindowRecord* const record = findRecord(window);
-    if (record == nullptr || record->shown)
-        return;
-    record->shown = true;
-    mapWindow(connection(), window);
+    if (WindowRecord* const record = findRecord(window); record != nullptr)
+        record->requests.show = true;
 }
 
 void raiseWindow(NativeWindow window)
 {
-    if (findRecord(window) != nullptr && !hosted())
-        XRaiseWindow(connection(), window);
+    onceShown(window, &MapRequests::raise, XRaiseWindow);
 }
 
 void focusWindow(NativeWindow window)
 {
-    if (findRecord(window) != nullptr && !hosted())
-        giveKeyboard(connection(), window);
+    onceShown(window, &MapRequests::focus, giveKeyboard);
 }
 
 bool placeWindow(NativeWindow window, int x, int y, Size client, bool topmost)
@@ -195,10 +216,15 @@ bool placeWindow(NativeWindow window, int x, int y, Size client, bool topmost)
                       static_cast<unsigned int>(client.width),
                       static_cast<unsigned int>(client.height));
     if (topmost) {
-        XRaiseWindow(display, window);
-        requestCover(display, window);
+        onceShown(window, &MapRequests::raise, XRaiseWindow);
+        onceShown(window, &MapRequests::cover, requestCover);
     }
-    updateClientSize(display, *record);
+    // A manager also handles the requests of a window that is not mapped, in its own time. Until it
+    // is mapped the size that was asked for counts.
+    if (record->shown)
+        updateClientSize(display, *record);
+    else
+        setClientSize(*record, client);
     return true;
 }
 
@@ -243,9 +269,11 @@ bool deleteContext(NativeContext context)
 
 bool swapBuffers(NativeWindow window)
 {
-    const WindowRecord* const record = findRecord(window);
+    WindowRecord* const record = findRecord(window);
     if (record == nullptr)
         return false;
+    if (record->requests.show && !record->shown)
+        putOnScreen(connection(), *record);
     presentBackBuffer(*record);
     frameClock.awaitNextFrame();
     glXSwapBuffers(connection(), window);

@@ -9,6 +9,12 @@
 
 namespace platform::x11 {
 
+/// What the program asked for before the window is mapped, to be done when it is.
+struct MapRequests {
+    bool show = false; ///< With its first frame.
+    bool raise = false, cover = false, focus = false;
+};
+
 /// What we know about a window of ours. A free place in the table has `id` 0.
 struct WindowRecord {
     ::Window id = 0;       ///< The NativeWindow that the port hands out, and the GLX drawable.
@@ -17,7 +23,8 @@ struct WindowRecord {
     POINT origin{};           ///< The desktop's top left corner on the root window.
     desktop::Size client;     ///< As the server last reported.
     bool sizeIsToTell = true; ///< `client` is to be reported to the program.
-    bool shown = false;
+    MapRequests requests;
+    bool shown = false;                  ///< Mapped.
     bool pointerHidden = false;          ///< While it is over the window.
     bool iconic = false, hidden = false; ///< Either means minimised.
 };

@@ -12,12 +12,9 @@ using namespace platform::desktop;
 
 namespace {
 
-/// A shown window with a current context.
 class BackBuffer : public DesktopFixture {
 protected:
-    BackBuffer() { EXPECT_TRUE(makeCurrent(window, createContext(window))); }
-
-    NativeWindow window = open();
+    NativeWindow window = openAndShow();
 };
 
 void fill(float red, float green, float blue)

@@ -19,14 +19,23 @@ protected:
     // Disconnects before the server goes: a lost connection would exit this process with status 0.
     ~DesktopFixture() override { platform::desktop::disconnect(); }
 
-    /// Opens and shows a window of 800 by 600 as the program does.
+    /// Opens a window of 800 by 600 with a current context, as the program does; it appears with
+    /// its first frame.
     static platform::desktop::NativeWindow open()
     {
         using namespace platform::desktop;
         const NativeWindow window = createWindow("title", 0, 0, {800, 600});
+        EXPECT_TRUE(makeCurrent(window, createContext(window)));
         showWindow(window);
         raiseWindow(window);
         focusWindow(window);
+        return window;
+    }
+
+    static platform::desktop::NativeWindow openAndShow()
+    {
+        const platform::desktop::NativeWindow window = open();
+        EXPECT_TRUE(platform::desktop::swapBuffers(window));
         return window;
     }
 

@@ -9,7 +9,7 @@ using Events = DesktopFixture;
 
 TEST_F(Events, ShowAHeldKeyAsHeld)
 {
-    open();
+    openAndShow();
     // Also on a server that sends a release before every repeated press.
     for (const Bool detectable : {True, False}) {
         XkbSetDetectableAutoRepeat(platform::x11::connection(), detectable, nullptr);
@@ -23,7 +23,7 @@ TEST_F(Events, ShowAHeldKeyAsHeld)
 
 TEST_F(Events, TellNoActivationByAGrabOrAFocusThatIsAnothers)
 {
-    open();
+    openAndShow();
     EXPECT_EQ(next(WM_ACTIVATE).wParam, WA_ACTIVE);
     user.moveTo(9, 9);
     XGrabKeyboard(server, DefaultRootWindow(server), 0, GrabModeAsync, GrabModeAsync, CurrentTime);

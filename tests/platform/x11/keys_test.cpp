@@ -23,7 +23,7 @@ TEST_F(Keys, AreKnownInAnyLanguage)
                 {{XK_KP_Begin, XK_KP_5}, 0x0C},
                 {{XK_KP_Add}, 0x6B},
                 {{XK_Shift_R}, 0x10}};
-    open();
+    openAndShow();
     const KeyCode key = XKeysymToKeycode(server, XK_j);
     for (auto& [symbols, code] : keys) {
         XChangeKeyboardMapping(server, key, 4, symbols, 1);

@@ -39,7 +39,7 @@ protected:
         if (program == 0) {
             const NativeWindow saver = open();
             showPointer(saver, false);
-            EXPECT_TRUE(placeWindow(saver, 0, 0, screen, true));
+            EXPECT_TRUE(placeWindow(saver, 0, 0, screen, true) && swapBuffers(saver));
             messageBox("a@MMMMMMMM\n\n\n\n\n\n\n\n\n\n\n\n\n\n\n", "ERROR", MB_OK, -1);
             Message message;
             bool found = false;
