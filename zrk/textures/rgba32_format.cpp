@@ -24,6 +24,10 @@ const SDL_PixelFormat rgba32Format = {
 
 OwnedSurface toRgba32(SDL_Surface& surface)
 {
+    // SDL maps as many colours as the palette says it has, but an image may hold any index. The
+    // array always has 256 entries; those that the image does not define are black.
+    if (surface.format->BitsPerPixel == 8 && surface.format->palette != nullptr)
+        surface.format->palette->ncolors = 256;
     SDL_PixelFormat format = rgba32Format; // SDL's parameter is not const
     return OwnedSurface(SDL_ConvertSurface(&surface, &format, 0));
 }

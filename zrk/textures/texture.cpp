@@ -68,7 +68,7 @@ std::int32_t Texture::load(const char* name, std::ostream* log)
         return -1;
     }
     freeSurface();
-    surface = image->format->BytesPerPixel == 1 ? std::move(image) : toRgba32(*image);
+    surface = image->format->BitsPerPixel == 8 ? std::move(image) : toRgba32(*image);
     if (!surface || !limitSize())
         return -1;
     fileName = name;

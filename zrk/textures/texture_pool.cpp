@@ -95,7 +95,7 @@ std::int32_t readTexture(PoolReader& reader, Texture& texture, std::ostream* log
         return cannotLoadImage;
     if (!readOptions(reader, texture))
         return unknownOption;
-    if (texture.surface->format->BytesPerPixel == 1 && !texture.grey) {
+    if (texture.surface->format->BitsPerPixel == 8 && !texture.grey) {
         OwnedSurface converted = toRgba32(*texture.surface);
         if (!converted)
             return cannotConvert;

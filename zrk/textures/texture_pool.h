@@ -44,8 +44,8 @@ public:
     /// is empty then.
     void resize(std::uint32_t newCount);
 
-    /// Doubles the pool, to at most `mostTextures`, by empty textures behind those it has; it is not
-    /// empty. Throws `Cexception` without memory and leaves the pool unchanged.
+    /// Doubles the pool, to at most `mostTextures`, by empty textures behind those it has; it is
+    /// not empty. Throws `Cexception` without memory and leaves the pool unchanged.
     void grow(std::uint32_t mostTextures);
 
 private:
