@@ -4,9 +4,9 @@
 
 namespace zrk {
 
-/// Decodes the image file `fileName` in whatever pixel format it has. Null when the name is null,
-/// when the file cannot be decoded, or when the image has no pixels or more than
-/// `resampleNearest` can address.
+/// Decodes the image file `fileName`, in whatever pixel format it has. Returns null for a null
+/// name, for anything but a regular file, for a file that is not `isDecodable` and does not end in
+/// .tga, and for one that SDL_image cannot decode. The image's size is one that `fitsSurface`.
 [[nodiscard]] OwnedSurface loadImage(const char* fileName);
 
 } // namespace zrk

@@ -53,14 +53,14 @@ void resampleNearest(const SDL_Surface& source, SDL_Surface& destination)
 {
     const SDL_PixelFormat& from = *source.format;
     const SDL_PixelFormat& to = *destination.format;
-    if (from.BytesPerPixel == 1) {
+    if (from.BitsPerPixel == 8) {
         // Sampling colours would need a palette to look them up in; indices stay what they are.
         copyPalette(*from.palette, *to.palette);
         SDL_SetColorKey(&destination, source.flags & SDL_SRCCOLORKEY, from.colorkey);
         sampleNearest<std::uint8_t>(source, destination, [](std::uint8_t index) { return index; });
         return;
     }
-    assert(from.BytesPerPixel == 4);
+    assert(from.BitsPerPixel == 32);
     sampleNearest<std::uint32_t>(source, destination, [&](std::uint32_t pixel) {
         std::uint8_t red = 0, green = 0, blue = 0;
         SDL_GetRGB(pixel, &from, &red, &green, &blue);
