@@ -11,7 +11,7 @@ function(quazo_test name)
     target_link_libraries(${name} PRIVATE keep_modules)
   endif()
   set(environment
-    "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/leak_suppressions.txt"
+    "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/leak_suppressions.txt:print_suppressions=0"
     "UBSAN_OPTIONS=print_stacktrace=1"
     "ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1")
   set(properties TIMEOUT 300 ENVIRONMENT "${environment}")

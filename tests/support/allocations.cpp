@@ -50,6 +50,13 @@ void* operator new[](std::size_t size)
     return allocate(size);
 }
 
+void* operator new(std::size_t size, const std::nothrow_t& /*unused*/) noexcept
+try {
+    return allocate(size);
+} catch (const std::bad_alloc&) {
+    return nullptr;
+}
+
 void operator delete(void* memory) noexcept
 {
     std::free(memory);
