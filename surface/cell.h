@@ -77,6 +77,38 @@ using CornerSamples = std::array<CornerSample, cornerCount>;
 /// the cell's octants lie on these planes.
 using GridLines = std::array<Float4, 3>;
 
+/// The middle is the minimum plus half the extent, not the mean of both ends: the two may round
+/// differently.
+inline GridLines gridLines(const BoundingBox& box)
+{
+    const Float4 low{box.min().x, box.min().y, box.min().z};
+    const Float4 high{box.max().x, box.max().y, box.max().z};
+    return {low, low + (high - low) * 0.5f, high};
+}
+
+/// A mask per octant of a cell, octants 0 to 3 and 4 to 7, one to a lane.
+using OctantMasks = std::array<Int4, 2>;
+
+inline std::uint8_t maskOf(const OctantMasks& masks, std::size_t octant)
+{
+    return static_cast<std::uint8_t>(masks[octant / 4][octant % 4]);
+}
+
+/// The octants, one bit each, for which a comparison is true: octants 0 to 3 and 4 to 7.
+inline unsigned octantsWith(Int4 first, Int4 second)
+{
+    return laneBits(first) | laneBits(second) << 4;
+}
+
+/// For octants 0 to 3 and 4 to 7 of a cell, one to a lane, the sum x + y + z of terms that only
+/// depend on whether the octant lies at the minimum or the maximum of that axis: `low` or `high`.
+inline std::array<Float4, 2> octantSums(Float4 low, Float4 high)
+{
+    const Float4 x{low[0], high[0], high[0], low[0]};
+    const Float4 z{low[2], low[2], high[2], high[2]};
+    return {x + low[1] + z, x + high[1] + z};
+}
+
 constexpr Vec3 cornerPosition(const BoundingBox& box, std::size_t corner)
 {
     const auto& [x, y, z] = cornerOffset[corner];

@@ -13,8 +13,8 @@
 // additions within a lane keep array order. The polygoniser spends most of its time here, hence
 // inline.
 
-/// The field on a cell's 3 × 3 × 3 grid: where lines a, b and e of x, y and z meet, it is lane a of
-/// [b][e].
+/// The field on a cell's 3 × 3 × 3 grid, in rows along x: lanes 0 to 2 of [b][e] are those on line
+/// b of y and line e of z.
 using Grid = std::array<std::array<Float4, 3>, 3>;
 
 /// Samples the grid of a cell, a row of x at a time. The eight corners, which the cell's parent has

@@ -1,12 +1,16 @@
 #pragma once
 
+#include <bit>
 #include <cmath>
 #include <cstdint>
 
+#ifdef __SSE__
+#include <xmmintrin.h>
+#endif
+
 /// Four floats in one SIMD register: a vector extension of GCC and clang. Arithmetic, comparison
-/// and
-/// ?: work lane by lane and round as scalar floats do. For a CPU without such registers the
-/// compiler emits scalar code.
+/// and choice (?:) work lane by lane and round as scalar floats do. For a CPU without such
+/// registers the compiler emits scalar code.
 using Float4 __attribute__((vector_size(16))) = float;
 
 /// The result of comparing two Float4: all bits of a lane are set where it is true.
@@ -16,6 +20,17 @@ using Int4 __attribute__((vector_size(16))) = std::int32_t;
 constexpr Float4 broadcast(float x)
 {
     return Float4{x, x, x, x};
+}
+
+/// One bit per lane, set where the comparison was true.
+inline unsigned laneBits(Int4 comparison)
+{
+#ifdef __SSE__
+    return static_cast<unsigned>(_mm_movemask_ps(std::bit_cast<Float4>(comparison)));
+#else
+    const Int4 bits = comparison & Int4{1, 2, 4, 8};
+    return static_cast<unsigned>(bits[0] | bits[1] | bits[2] | bits[3]);
+#endif
 }
 
 inline float squareRoot(float x)

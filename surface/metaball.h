@@ -18,8 +18,7 @@ struct Metaball {
     float radius = 100.0f;                    ///< Of influence, in world units.
     float falloff = 0.5f / (100.0f * 100.0f); ///< 0.5 / radius²: saves the field a division.
     Vec3 centre;
-    Sphere bounds{100.0f,
-                  {}}; ///< The sphere of influence; cells that it does not meet are dropped.
+    Sphere bounds{100.0f, {}}; ///< Of influence: cells that it does not meet are dropped.
 
     /// The way to change a ball: `falloff`, which alone decides its field, and `bounds` follow.
     void set(const Vec3& newCentre, float newRadius);

@@ -73,18 +73,19 @@ void NearbyBalls::resize(std::uint32_t newBallCount, std::size_t newDepthCount)
     depthCount = newDepthCount;
 }
 
-void NearbyBalls::measureOctants(std::uint32_t depth, const GridLines& lines)
+unsigned NearbyBalls::measureOctants(std::uint32_t depth, const GridLines& lines)
 {
+    OctantMasks met{};
     const auto& [low, middle, high] = lines;
     NearbyBall* const list = lists.get() + std::size_t{depth} * ballCount;
     for (auto& [ball, toOctants2] : std::span(list, counts[depth])) {
         const Float4 toLow = distance2(ball->boundsCentre, low, middle);
         const Float4 toHigh = distance2(ball->boundsCentre, middle, high);
-        // Corner order goes around a face of constant y: x is low, high, high, low.
-        const Float4 toX{toLow[0], toHigh[0], toHigh[0], toLow[0]};
-        const Float4 toZ{toLow[2], toLow[2], toHigh[2], toHigh[2]};
-        toOctants2 = {toX + toLow[1] + toZ, toX + toHigh[1] + toZ};
+        toOctants2 = octantSums(toLow, toHigh);
+        for (std::size_t half = 0; half < 2; ++half)
+            met[half] |= toOctants2[half] <= ball->radius2;
     }
+    return octantsWith(met[0], met[1]);
 }
 
 unsigned NearbyBalls::octantsReaching(std::uint32_t depth, float level) const
@@ -98,24 +99,19 @@ unsigned NearbyBalls::octantsReaching(std::uint32_t depth, float level) const
 
     // Far more than rounding can add to the bound or the samples.
     const float slack = 1e-5f * static_cast<float>(ballCount) * std::max(1.0f, level);
-    unsigned octants = 0;
-    for (std::size_t octant = 0; octant < cornerCount; ++octant)
-        octants |= (bounds[octant / 4][octant % 4] < level - slack ? 0u : 1u) << octant;
-    return octants;
+    const float lowest = level - slack;
+    return ~octantsWith(bounds[0] < lowest, bounds[1] < lowest) & 0xff;
 }
 
-bool NearbyBalls::enterOctant(std::uint32_t depth, std::size_t octant)
+void NearbyBalls::enterOctant(std::uint32_t depth, std::size_t octant)
 {
     NearbyBall* const list = lists.get() + std::size_t{depth + 1} * ballCount;
     std::uint32_t count = 0;
-    bool met = false;
     for (const auto& [ball, toOctants2] : at(depth)) {
         const float d2 = toOctants2[octant / 4][octant % 4];
-        met |= d2 <= ball->radius2;
         // Written always, kept if near: a branch on where a ball lies is hardly predictable.
         list[count].ball = ball;
         count += d2 > ball->reach2 ? 0 : 1; // NaN counts as near
     }
     counts[depth + 1] = count;
-    return met;
 }

@@ -46,14 +46,15 @@ public:
     }
 
     /// Computes the distances of the balls near the visited cell of `depth` to its octants, whose
-    /// planes are `lines`. The other functions on octants read them.
-    void measureOctants(std::uint32_t depth, const GridLines& lines);
+    /// planes are `lines`. The other functions on octants read them. Yields the octants, one bit
+    /// each, that some ball's bounds meet.
+    unsigned measureOctants(std::uint32_t depth, const GridLines& lines);
 
     /// The octants, one bit each, in which the field may reach `level` somewhere.
     unsigned octantsReaching(std::uint32_t depth, float level) const;
 
-    /// Makes the list of the next depth that of an octant. False if no ball's bounds meet it.
-    bool enterOctant(std::uint32_t depth, std::size_t octant);
+    /// Makes the list of the next depth that of an octant.
+    void enterOctant(std::uint32_t depth, std::size_t octant);
 
 private:
     std::uint32_t ballCount = 0;

@@ -14,15 +14,6 @@
 
 namespace {
 
-// The middle is the minimum plus half the extent, not the mean of both ends: the two may round
-// differently.
-GridLines gridLines(const BoundingBox& box)
-{
-    const Float4 low{box.min().x, box.min().y, box.min().z};
-    const Float4 high{box.max().x, box.max().y, box.max().z};
-    return {low, low + (high - low) * 0.5f, high};
-}
-
 BoundingBox octantBox(const GridLines& lines, std::size_t octant)
 {
     const auto& [x, y, z] = cornerOffset[octant];
@@ -41,8 +32,6 @@ CornerValues octantCorners(const Grid& grid, std::size_t octant)
     return values;
 }
 
-using OctantCases = std::array<std::uint8_t, cornerCount>;
-
 /// The bits in a case index of the two corners that end an edge along x, in a byte each:
 ///
 ///     15 ...... 8 | 7 ....... 0
@@ -54,7 +43,7 @@ constexpr std::int32_t edgeBits(int cornerAtMinimum, int cornerAtMaximum)
 }
 
 /// The case indices of a cell's octants, as `caseIndexOf` has them for each.
-OctantCases octantCases(const Grid& grid, float threshold)
+OctantMasks octantCases(const Grid& grid, float threshold)
 {
     // An octant has four edges along x, at the offsets [y][z]. Each takes two neighbouring lanes of
     // a row of the grid. A lane may be either end of an edge, so it gets the bits of both, and the
@@ -67,11 +56,12 @@ OctantCases octantCases(const Grid& grid, float threshold)
             for (std::size_t b = 0; b < 2; ++b)
                 for (std::size_t e = 0; e < 2; ++e)
                     outside[y][z] |= ~(grid[y + b][z + e] >= threshold) & cornerBits[b][e];
-    OctantCases cases;
-    for (std::size_t octant = 0; octant < cornerCount; ++octant) {
-        const auto& [x, y, z] = cornerOffset[octant];
-        const Int4 row = outside[y][z];
-        cases[octant] = static_cast<std::uint8_t>(row[x] >> 8 | (row[x + 1] & 0xff));
+    OctantMasks cases;
+    for (std::size_t y = 0; y < 2; ++y) {
+        const auto& [front, back] = outside[y];
+        const Int4 atMinimum{front[0], front[1], back[1], back[0]};
+        const Int4 atMaximum{front[1], front[2], back[2], back[1]};
+        cases[y] = atMinimum >> 8 | (atMaximum & 0xff);
     }
     return cases;
 }
@@ -79,14 +69,10 @@ OctantCases octantCases(const Grid& grid, float threshold)
 /// The octants that may hold surface, one bit each. One with all corners inside is dropped, hollows
 /// and all. In one with all corners outside a small ball may lie between them, if the field reaches
 /// the threshold anywhere in it.
-unsigned octantsToVisit(const OctantCases& cases, unsigned reachingThreshold)
+unsigned octantsToVisit(const OctantMasks& cases, unsigned reachingThreshold)
 {
-    unsigned octants = 0;
-    for (std::size_t octant = 0; octant < cornerCount; ++octant) {
-        const bool outside = cases[octant] == allOutside && (reachingThreshold >> octant & 1u) == 0;
-        octants |= (cases[octant] == allInside || outside ? 0u : 1u) << octant;
-    }
-    return octants;
+    return octantsWith(cases[0] != allInside, cases[1] != allInside) &
+           (octantsWith(cases[0] != allOutside, cases[1] != allOutside) | reachingThreshold);
 }
 
 void setCornerSamples(CornerSamples& samples, const BoundingBox& box, const CornerValues& values)
@@ -113,6 +99,16 @@ Coordinates<Float4> transposed(const std::array<Float4, 4>& p)
             Float4{p[0][2], p[1][2], p[2][2], p[3][2]}};
 }
 
+/// Takes a node for an octant and links it to its parent.
+OctreeNode& addChild(OctreeNode& node, std::size_t octant, const BoundingBox& bounds)
+{
+    OctreeNode* const child = nodePool.take();
+    node.children[octant] = child;
+    child->bounds.copyExtent(bounds);
+    child->children.fill(nullptr);
+    return *child;
+}
+
 } // namespace
 
 void Polygonizer::begin(std::span<const Metaball> balls, const BoundingBox& region,
@@ -136,22 +132,20 @@ void Polygonizer::subdivide(OctreeNode& node, const CornerValues& values, std::u
 
     const GridLines lines = gridLines(node.bounds);
     const Grid grid = sampleGrid(nearbyBalls.at(depth), lines);
-    const OctantCases cases = octantCases(grid, threshold);
-    nearbyBalls.measureOctants(depth, lines);
+    const OctantMasks cases = octantCases(grid, threshold);
+    const unsigned met = nearbyBalls.measureOctants(depth, lines);
     // Octants with all corners outside: a leaf draws nothing then, no matter what lies within.
     const bool leaves = depth + 1 == maxDepth;
     const unsigned reaching = leaves ? 0 : nearbyBalls.octantsReaching(depth, threshold);
-    for (unsigned open = octantsToVisit(cases, reaching); open != 0; open &= open - 1) {
+    for (unsigned open = octantsToVisit(cases, reaching) & met; open != 0; open &= open - 1) {
         const auto k = static_cast<std::size_t>(std::countr_zero(open));
         testedBox.copyExtent(octantBox(lines, k));
         const std::uint8_t childVisibility = viewFrustum.classifyBox(testedBox, visibility);
-        if (childVisibility == 0 || !nearbyBalls.enterOctant(depth, k))
+        if (childVisibility == 0)
             continue;
-        OctreeNode* const child = nodePool.take();
-        node.children[k] = child;
-        child->bounds.copyExtent(testedBox);
-        child->children.fill(nullptr);
-        subdivide(*child, octantCorners(grid, k), depth + 1, cases[k], childVisibility);
+        OctreeNode& child = addChild(node, k, testedBox);
+        nearbyBalls.enterOctant(depth, k);
+        subdivide(child, octantCorners(grid, k), depth + 1, maskOf(cases, k), childVisibility);
     }
 }
 

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <bit>
 #include <random>
 #include <span>
 #include <string>
@@ -51,7 +52,8 @@ protected:
         EXPECT_TRUE(std::ranges::all_of(sent, [&](const vertex_sink::Vertex& v) {
             const Vec3 p(v.x, v.y, v.z);
             const Vec3 texCoord = surface.surfaceTexCoord(p, surface.fieldAt(p));
-            return texCoord.x == v.s && texCoord.y == v.t;
+            return std::bit_cast<std::uint32_t>(texCoord.x) == std::bit_cast<std::uint32_t>(v.s) &&
+                   std::bit_cast<std::uint32_t>(texCoord.y) == std::bit_cast<std::uint32_t>(v.t);
         })) << what;
         return expected.size();
     }
@@ -86,6 +88,7 @@ const Case cases[] = {
     {"small balls around a large one", {{500, {}}, {40, {300, 0, 0}}, {60, {0, 300, 75}}}, false},
     {"a ball that holds the region", {{9000, {}}}, true},
     {"the region's corners alone outside", {{2300, {}}}, false},
+    {"a ball of no size, NaN at its centre", {{300, {}}, {0, {75, 150, 0}}}, false},
     {"corners where the field is 0.5625", {{400, {25, 0, 0}}, {400, {-1000, -1200, -1200}}}, false},
 };
 
