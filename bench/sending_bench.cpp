@@ -12,14 +12,17 @@
 #include <benchmark/benchmark.h>
 
 #include <array>
+#include <span>
 #include <vector>
 
 namespace {
 
 constexpr std::uint32_t frameCount = 8;
 
+constexpr std::array<std::uint8_t, edgeCount> edgeOrder{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11};
+
 struct Leaf {
-    EdgeVertices vertices;
+    std::array<EdgeVertex, edgeCount> vertices; ///< In edge order.
     std::uint8_t caseIndex;
 };
 
@@ -28,14 +31,20 @@ std::vector<Leaf>* leavesToKeep = nullptr;
 } // namespace
 
 /// The library's own `drawLeaf`, built under this name.
-void sendLeaf(const EdgeVertices& vertices, std::uint8_t caseIndex);
+void sendLeaf(std::span<const EdgeVertex> vertices,
+              const std::array<std::uint8_t, edgeCount>& vertexOfEdge, std::uint8_t caseIndex);
 
 // What the polygoniser calls: keeps the leaf on demand.
-void drawLeaf(const EdgeVertices& vertices, std::uint8_t caseIndex)
+void drawLeaf(std::span<const EdgeVertex> vertices,
+              const std::array<std::uint8_t, edgeCount>& vertexOfEdge, std::uint8_t caseIndex)
 {
-    if (leavesToKeep != nullptr)
-        leavesToKeep->push_back({vertices, caseIndex});
-    sendLeaf(vertices, caseIndex);
+    if (leavesToKeep != nullptr) {
+        Leaf leaf{{}, caseIndex};
+        for (std::size_t edge = 0; edge < edgeCount; ++edge)
+            leaf.vertices[edge] = vertices[vertexOfEdge[edge]];
+        leavesToKeep->push_back(leaf);
+    }
+    sendLeaf(vertices, vertexOfEdge, caseIndex);
 }
 
 namespace {
@@ -75,7 +84,7 @@ int main(int argumentCount, char** arguments)
     const auto sendingAlone = [&](std::uint32_t frame) {
         shader.apply();
         for (const auto& [vertices, caseIndex] : leaves[frame])
-            sendLeaf(vertices, caseIndex);
+            sendLeaf(vertices, edgeOrder, caseIndex);
     };
     const auto polygonizedAndSent = [&](std::uint32_t frame) {
         surfaces[frame].polygonizeAndDraw();

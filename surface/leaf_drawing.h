@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 
 /// Where the surface crosses an edge of a leaf cell, in world space, and its texture coordinate.
 struct EdgeVertex {
@@ -12,9 +13,7 @@ struct EdgeVertex {
     float s, t;
 };
 
-/// One vertex per edge, in edge order; those of edges that are not crossed are not read.
-using EdgeVertices = std::array<EdgeVertex, edgeCount>;
-
 /// Sends the triangles of a leaf cell to OpenGL in immediate mode, between one begin and end, in
 /// the order of `triTable`. `caseIndex` must have a triangle.
-void drawLeaf(const EdgeVertices& vertices, std::uint8_t caseIndex);
+void drawLeaf(std::span<const EdgeVertex> vertices,
+              const std::array<std::uint8_t, edgeCount>& vertexOfEdge, std::uint8_t caseIndex);

@@ -1,5 +1,6 @@
 #include "surface/metaball_surface.h"
 
+#include "surface/edge_crossing.h"
 #include "surface/frustum.h"
 #include "surface/metaball_field.h"
 #include "surface/view_frustum.h"

@@ -79,24 +79,8 @@ void setCornerSamples(CornerSamples& samples, const BoundingBox& box, const Corn
 {
     for (std::size_t corner = 0; corner < cornerCount; ++corner) {
         const Vec3 p = cornerPosition(box, corner);
-        // Stored as one vector, because it is loaded as one: see `crossingOn`.
         samples[corner] = std::bit_cast<CornerSample>(Float4{p.x, p.y, p.z, values[corner]});
     }
-}
-
-/// Where the surface crosses an edge whose ends lie on different sides of it: x, y and z.
-Float4 crossingOn(std::size_t edge, const CornerSamples& samples, float threshold)
-{
-    const CornerSample& from = samples[edgeCorners[edge].from];
-    const CornerSample& to = samples[edgeCorners[edge].to];
-    return crossingBetween(std::bit_cast<Float4>(from), std::bit_cast<Float4>(to), from.value,
-                           to.value, threshold);
-}
-
-Coordinates<Float4> transposed(const std::array<Float4, 4>& p)
-{
-    return {Float4{p[0][0], p[1][0], p[2][0], p[3][0]}, Float4{p[0][1], p[1][1], p[2][1], p[3][1]},
-            Float4{p[0][2], p[1][2], p[2][2], p[3][2]}};
 }
 
 /// Takes a node for an octant and links it to its parent.
@@ -107,6 +91,15 @@ OctreeNode& addChild(OctreeNode& node, std::size_t octant, const BoundingBox& bo
     child->bounds.copyExtent(bounds);
     child->children.fill(nullptr);
     return *child;
+}
+
+void setGridPoints(GridPoints& points, const Grid& grid, const GridLines& lines)
+{
+    for (std::size_t a = 0; a < 3; ++a)
+        for (std::size_t b = 0; b < 3; ++b)
+            for (std::size_t e = 0; e < 3; ++e)
+                points[gridPoint(a, b, e)] =
+                    Float4{lines[a][0], lines[b][1], lines[e][2], grid[b][e][a]};
 }
 
 } // namespace
@@ -144,31 +137,29 @@ void Polygonizer::subdivide(OctreeNode& node, const CornerValues& values, std::u
         if (childVisibility == 0)
             continue;
         OctreeNode& child = addChild(node, k, testedBox);
-        nearbyBalls.enterOctant(depth, k);
-        subdivide(child, octantCorners(grid, k), depth + 1, maskOf(cases, k), childVisibility);
+        if (leaves) {
+            leafBatch.add(k, maskOf(cases, k));
+        } else {
+            nearbyBalls.enterOctant(depth, k);
+            subdivide(child, octantCorners(grid, k), depth + 1, maskOf(cases, k), childVisibility);
+        }
+    }
+    // All leaves among the octants are drawn together here, in the order of their visit.
+    if (leaves) {
+        setGridPoints(leafBatch.points, grid, lines);
+        leafBatch.draw(nearbyBalls.at(depth), threshold);
     }
 }
 
+// The leaf is drawn as octant 0 of a cell without other octants.
 void Polygonizer::polygonizeLeaf(const CornerSamples& samples, std::uint8_t caseIndex)
 {
     if (edgeTable[caseIndex] == 0)
         return;
-
-    // Four crossings are evaluated at a time; repeats of the first edge fill the last group.
-    std::array<std::uint8_t, edgeCount + 3> edges;
-    std::size_t count = 0;
-    for (std::uint32_t open = edgeTable[caseIndex]; open != 0; open &= open - 1)
-        edges[count++] = static_cast<std::uint8_t>(std::countr_zero(open));
-    for (std::size_t i = 0; i < 3; ++i)
-        edges[count + i] = edges[0];
-
-    for (std::size_t group = 0; group < count; group += 4) {
-        std::array<Float4, 4> p;
-        for (std::size_t i = 0; i < 4; ++i)
-            p[i] = crossingOn(edges[group + i], samples, threshold);
-        const auto [s, t, z] = surfaceTexCoords(nearbyBalls.at(maxDepth), transposed(p));
-        for (std::size_t i = 0; i < 4; ++i)
-            edgeVertices[edges[group + i]] = {p[i], s[i], t[i]};
+    for (std::size_t corner = 0; corner < cornerCount; ++corner) {
+        const auto& [x, y, z] = cornerOffset[corner];
+        leafBatch.points[gridPoint(x, y, z)] = std::bit_cast<Float4>(samples[corner]);
     }
-    drawLeaf(edgeVertices, caseIndex);
+    leafBatch.add(0, caseIndex);
+    leafBatch.draw(nearbyBalls.at(0), threshold);
 }

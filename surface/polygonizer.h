@@ -2,7 +2,7 @@
 
 #include "surface/bounding_box.h"
 #include "surface/cell.h"
-#include "surface/leaf_drawing.h"
+#include "surface/leaf_batch.h"
 #include "surface/nearby_balls.h"
 #include "surface/octree.h"
 
@@ -43,15 +43,5 @@ private:
     /// cell is likely to reject the next one.
     BoundingBox testedBox;
     CornerSamples leafSamples;
-    EdgeVertices edgeVertices{};
+    LeafBatch leafBatch;
 };
-
-/// Where the surface crosses the edge from `pa` to `pb`, taking the field between its values `va`
-/// and `vb` at the ends to be linear. Works on a Vec3, and on a Float4 lane by lane.
-template <typename Point>
-constexpr Point crossingBetween(const Point& pa, const Point& pb, float va, float vb,
-                                float threshold)
-{
-    const float mu = (threshold - va) / (vb - va);
-    return pa + (pb - pa) * mu;
-}
