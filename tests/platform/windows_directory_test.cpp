@@ -30,3 +30,15 @@ TEST(WindowsDirectory, TellsTheSizeThatItNeeds)
     EXPECT_EQ(GetWindowsDirectoryA(buffer.data(), 8), 7U);
     EXPECT_STREQ(buffer.data(), "/wished");
 }
+
+TEST(WindowsDirectory, MayHaveAPathOfAnyLength)
+{
+    const TemporaryDirectory directory;
+    const auto longPath = directory.path / std::string(200, 'a') / std::string(200, 'b');
+    std::filesystem::create_directories(longPath);
+    setenv("QUAZO_WINDOWS_DIRECTORY", longPath.c_str(), 1);
+    std::array<char, MAX_PATH> buffer{};
+    EXPECT_LT(GetWindowsDirectoryA(buffer.data(), MAX_PATH), UINT{MAX_PATH});
+    EXPECT_TRUE(SetCurrentDirectoryA(buffer.data()));
+    EXPECT_EQ(std::filesystem::current_path(), longPath);
+}
