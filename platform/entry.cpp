@@ -2,14 +2,26 @@
 #include "platform/signals.h"
 
 #include <chrono>
+#include <fcntl.h>
 #include <span>
 #include <string>
+#include <unistd.h>
 #include <utility>
 
 namespace {
 
 // Hosts wait a tenth of a second for their saver; the exit itself needs some of that.
 constexpr std::chrono::milliseconds hostsPatience{80};
+
+// A descriptor that the parent process closed would be given to the next file that is opened: log
+// lines would go into the connection to the X server.
+void openStandardDescriptors()
+{
+    int descriptor = STDIN_FILENO;
+    while (descriptor >= 0 && descriptor <= STDERR_FILENO)
+        descriptor = open("/dev/null", O_RDWR);
+    close(descriptor);
+}
 
 std::string joinedByBlanks(std::span<char* const> arguments)
 {
@@ -24,6 +36,7 @@ std::string joinedByBlanks(std::span<char* const> arguments)
 
 int main(int argumentCount, char** arguments)
 {
+    openStandardDescriptors();
     const bool hosted = platform::desktop::chooseHost(argumentCount, arguments);
     platform::installEndSignals(hosted ? hostsPatience : std::chrono::milliseconds(0));
     // The first argument is the program's name, if there are arguments at all.

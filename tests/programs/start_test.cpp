@@ -46,6 +46,14 @@ TEST_F(Start, ShowsTheAboutBoxUntilAKeyOrASignal)
     EXPECT_EQ(signalled.wait(), 0);
 }
 
+// What the parent closed must not be given to our own files: log lines would close the box at once.
+TEST_F(Start, ShowsABoxWithoutStandardStreams)
+{
+    ChildProcess program({"/bin/sh", "-c", "exec \"$0\" /s <&- >&- 2>&-", QUAZO_PROGRAM},
+                         {{"QUAZO_WINDOWS_DIRECTORY", "/nowhere"}});
+    EXPECT_EQ(statusAfterBox(program, XK_Return), 1);
+}
+
 TEST_F(Start, QuitsSilently)
 {
     ChildProcess program = quazo({"/p", "1234"});
