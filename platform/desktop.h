@@ -37,13 +37,13 @@ struct Message {
 
 /// Finds out whether the program was started by a host, to draw in one of its windows. The window's
 /// number, decimal or with 0x, follows `--window-id` among the arguments, or else is in the
-/// environment variable XSCREENSAVER_WINDOW, where an empty value counts as unset. True when a
-/// window was given, even by an argument without a number; if there is no such window, connecting
-/// ends the process with status 1 and a line on standard error. To be called before all other
-/// functions.
-bool chooseHost(int argumentCount, const char* const* arguments);
+/// environment variable XSCREENSAVER_WINDOW, where an empty value counts as unset. If a window was
+/// given, even by an argument without a number, and there is no such window, connecting ends the
+/// process with status 1 and a line on standard error. To be called before all other functions.
+void chooseHost(int argumentCount, const char* const* arguments);
 
-/// The desktop's size; false when there is no desktop to draw on. The first call connects.
+/// The desktop's size; false when there is no desktop to draw on. The first call connects; from
+/// then on the process exits with status 0 as soon as the desktop, or the host's window, is gone.
 [[nodiscard]] bool size(Size& result);
 
 /// Where the pointer is now.

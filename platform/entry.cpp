@@ -1,7 +1,6 @@
 #include "platform/desktop.h"
 #include "platform/signals.h"
 
-#include <chrono>
 #include <fcntl.h>
 #include <span>
 #include <string>
@@ -9,9 +8,6 @@
 #include <utility>
 
 namespace {
-
-// Hosts wait a tenth of a second for their saver; the exit itself needs some of that.
-constexpr std::chrono::milliseconds hostsPatience{80};
 
 // A descriptor that the parent process closed would be given to the next file that is opened: log
 // lines would go into the connection to the X server.
@@ -37,8 +33,8 @@ std::string joinedByBlanks(std::span<char* const> arguments)
 int main(int argumentCount, char** arguments)
 {
     openStandardDescriptors();
-    const bool hosted = platform::desktop::chooseHost(argumentCount, arguments);
-    platform::installEndSignals(hosted ? hostsPatience : std::chrono::milliseconds(0));
+    platform::installEndSignals();
+    platform::desktop::chooseHost(argumentCount, arguments);
     // The first argument is the program's name, if there are arguments at all.
     const std::span<char* const> all(arguments, static_cast<std::size_t>(argumentCount));
     std::string commandLine = joinedByBlanks(all.empty() ? all : all.subspan(1));

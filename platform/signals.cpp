@@ -11,13 +11,17 @@ namespace platform {
 
 namespace {
 
+// Whoever asks for the end, a host above all, expects it within a tenth of a second. A frame takes
+// a third of this where the hardware draws it; a frame of a software renderer or a file may take
+// longer than a tenth of a second, and the exit needs time too, to release what a driver holds.
+constexpr itimerspec gracePeriod{{0, 0}, {0, 30'000'000}};
+
 constinit volatile std::sig_atomic_t endFlag = 0;
 constinit std::array<int, 2> endPipe = {-1, -1}; // reading end, writing end
+constinit timer_t graceTimer{};
 
-constinit bool patienceEnds = false;
-constinit timer_t patienceTimer{};
-constinit itimerspec patienceTime{};
-
+// Async-signal-safe, like all that these handlers call. The system and the X server release what is
+// ours, and no destructor runs in the middle of what was interrupted.
 void endAtOnce(int /*signal*/)
 {
     _exit(0);
@@ -26,45 +30,40 @@ void endAtOnce(int /*signal*/)
 void requestEnd(int /*signal*/)
 {
     const int savedError = errno;
-    if (patienceEnds && endFlag == 0)
-        timer_settime(patienceTimer, 0, &patienceTime, nullptr);
+    if (endFlag == 0)
+        timer_settime(graceTimer, 0, &gracePeriod, nullptr);
     endFlag = 1;
-    // A full pipe can be read as well as one with a byte in it, so a failed write loses nothing.
+    // A full pipe is as readable as one with a byte in it, so a failed write does no harm.
     [[maybe_unused]] const ssize_t written = write(endPipe[1], "", 1);
     errno = savedError;
 }
 
+// Also if the parent process had the signal ignored or blocked.
 void handle(int signal, void (*handler)(int))
 {
     struct sigaction action = {};
     action.sa_handler = handler;
-    action.sa_flags = SA_RESTART; // reading a data file goes on where it was
+    action.sa_flags = SA_RESTART; // a read that is interrupted continues
     sigemptyset(&action.sa_mask);
     sigaction(signal, &action, nullptr);
-    sigset_t taken;
-    sigemptyset(&taken);
-    sigaddset(&taken, signal);
-    sigprocmask(SIG_UNBLOCK, &taken, nullptr);
-}
-
-// The timer, once it is set, raises SIGALRM.
-void limitPatience(std::chrono::milliseconds patience)
-{
-    patienceTime.it_value.tv_nsec = std::chrono::nanoseconds(patience).count();
-    patienceEnds = timer_create(CLOCK_MONOTONIC, nullptr, &patienceTimer) == 0;
-    handle(SIGALRM, endAtOnce);
+    sigset_t handled;
+    sigemptyset(&handled);
+    sigaddset(&handled, signal);
+    sigprocmask(SIG_UNBLOCK, &handled, nullptr);
 }
 
 } // namespace
 
-void installEndSignals(std::chrono::milliseconds patience)
+void installEndSignals()
 {
-    if (patience.count() > 0)
-        limitPatience(patience);
+    // Without a pipe a message box does not notice the request; it ends with the grace period.
     if (pipe2(endPipe.data(), O_CLOEXEC | O_NONBLOCK) != 0)
         endPipe = {-1, -1};
+    handle(SIGALRM, endAtOnce); // which the timer raises
+    // Without a timer there is no grace period.
+    const bool timed = timer_create(CLOCK_MONOTONIC, nullptr, &graceTimer) == 0;
     for (const int signal : {SIGTERM, SIGINT, SIGHUP})
-        handle(signal, requestEnd);
+        handle(signal, timed ? requestEnd : endAtOnce);
     handle(SIGPIPE, SIG_IGN);
 }
 

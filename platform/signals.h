@@ -1,15 +1,12 @@
 #pragma once
 
-#include <chrono>
-
 namespace platform {
 
-/// From here on SIGTERM, SIGINT and SIGHUP no longer kill the process: they leave a request to
-/// end, which is never withdrawn. A process that has not ended by itself within the grace period
-/// `patience`, below a second, exits at once with status 0; 0 sets no limit. SIGPIPE is ignored:
-/// when the reader of our output or the display goes away, the write fails, and the program can end
-/// in its usual way.
-void installEndSignals(std::chrono::milliseconds patience = {});
+/// From here on SIGTERM, SIGINT and SIGHUP leave a request to end, which is never withdrawn. A
+/// process that has not ended by itself 30 ms after the first of them exits at once with status 0,
+/// whatever it is doing. SIGPIPE is ignored: when the reader of our output or the display goes
+/// away, the write fails, and the program can end in its usual way.
+void installEndSignals();
 
 /// Whether one of the signals has come.
 [[nodiscard]] bool endRequested();

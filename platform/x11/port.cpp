@@ -106,10 +106,9 @@ namespace platform::desktop {
 
 using namespace platform::x11;
 
-bool chooseHost(int argumentCount, const char* const* arguments)
+void chooseHost(int argumentCount, const char* const* arguments)
 {
     chooseHostWindow(argumentCount, arguments);
-    return hosted();
 }
 
 bool size(Size& result)
