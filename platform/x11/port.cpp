@@ -1,6 +1,7 @@
 #include "platform/desktop.h"
 #include "platform/frame_clock.h"
 #include "platform/x11/client_size.h"
+#include "platform/x11/connection_watch.h"
 #include "platform/x11/contexts.h"
 #include "platform/x11/desktop_area.h"
 #include "platform/x11/display.h"
@@ -36,9 +37,14 @@ constexpr long ownEvents = StructureNotifyMask | PropertyChangeMask | FocusChang
 
 Display* connected()
 {
+    if (connection() != nullptr)
+        return connection();
+    openWatch();
     Display* const display = openConnection();
-    if (display != nullptr)
-        adoptHost(display);
+    if (display == nullptr)
+        return nullptr;
+    adoptHost(display);
+    startWatch(hosted() ? hostWindow() : None);
     return display;
 }
 
@@ -150,6 +156,7 @@ void disconnect()
     forgetWindows();
     releaseHost();
     closeConnection();
+    closeWatch();
 }
 
 NativeWindow createWindow(const char* title, int x, int y, Size client)
