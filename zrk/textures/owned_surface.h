@@ -13,10 +13,11 @@ struct FreeSurface {
 /// Owns an SDL surface.
 using OwnedSurface = std::unique_ptr<SDL_Surface, FreeSurface>;
 
-/// Whether SDL 1.2 can make a surface of this size, in pixels, that has any.
+/// Whether a surface may have this size, in pixels: it has any, SDL 1.2 can address them, and they
+/// are no more than 8192 x 8192, so that there is memory for them.
 constexpr bool fitsSurface(int width, int height)
 {
-    return width > 0 && width < 16384 && height > 0 && height < 65536;
+    return width > 0 && width < 16384 && height > 0 && height < 65536 && width * height <= 1 << 26;
 }
 
 } // namespace zrk
