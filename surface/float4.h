@@ -22,6 +22,31 @@ constexpr Float4 broadcast(float x)
     return Float4{x, x, x, x};
 }
 
+/// The lesser of `a` and `b`; `b` if one of them is NaN.
+inline float lesser(float a, float b)
+{
+    return a < b ? a : b;
+}
+
+inline Float4 lesser(Float4 a, Float4 b)
+{
+#ifdef __SSE__
+    return _mm_min_ps(a, b); // compilers make several instructions of the line below
+#else
+    return a < b ? a : b;
+#endif
+}
+
+/// The greater of `a` and `b`; `b` if one of them is NaN.
+inline Float4 greater(Float4 a, Float4 b)
+{
+#ifdef __SSE__
+    return _mm_max_ps(a, b);
+#else
+    return a > b ? a : b;
+#endif
+}
+
 /// One bit per lane, set where the comparison was true.
 inline unsigned laneBits(Int4 comparison)
 {

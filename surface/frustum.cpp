@@ -2,6 +2,8 @@
 
 #include "surface/bounding_box.h"
 
+#include <bit>
+
 void Frustum::normalizePlanes()
 {
     for (Plane& plane : planes)
@@ -42,6 +44,41 @@ std::uint8_t Frustum::classifyBox(BoundingBox& box, std::uint8_t inheritedMask) 
         }
     }
     return static_cast<std::uint8_t>(contained);
+}
+
+// The terms n.x x, n.y y and n.z z of a plane's distance take only three values each on the corners
+// of all octants. Of an octant's two, the lesser belongs to its near corner and the greater to its
+// far one: the product is monotonic, rounding included, so these are `sideOf`'s numbers.
+OctantMasks Frustum::classifyOctants(BoundingBox& cell, unsigned octants,
+                                     std::uint8_t inheritedMask) const
+{
+    const auto [low, middle, high] = gridLines(cell);
+    const Int4 inherited = Int4{} + inheritedMask;
+    OctantMasks contained{inherited, inherited};
+    OctantMasks outside{};
+    unsigned open = octants;
+    unsigned untested = allPlanes & ~unsigned{inheritedMask};
+    const std::int32_t last = cell.lastCullingPlane;
+    int plane = last >= 0 && (untested >> last & 1u) != 0 ? last : std::countr_zero(untested);
+    for (; untested != 0 && open != 0; plane = std::countr_zero(untested)) {
+        untested &= ~(1u << plane);
+        const auto& [d, n] = testedPlanes[static_cast<std::size_t>(plane)];
+        const Float4 normal{n.x, n.y, n.z};
+        const Float4 atLow = normal * low;
+        const Float4 atMiddle = normal * middle;
+        const Float4 atHigh = normal * high;
+        const auto near = octantSums(lesser(atLow, atMiddle), lesser(atMiddle, atHigh));
+        const auto far = octantSums(greater(atLow, atMiddle), greater(atMiddle, atHigh));
+        for (std::size_t half = 0; half < 2; ++half) {
+            outside[half] |= near[half] + d > 0.0f;
+            contained[half] |= (far[half] + d <= 0.0f) & (1 << plane);
+        }
+        const unsigned left = octants & ~octantsWith(outside[0], outside[1]);
+        if (left != open)
+            cell.lastCullingPlane = plane;
+        open = left;
+    }
+    return {contained[0] & ~outside[0], contained[1] & ~outside[1]};
 }
 
 // Distances grow with each coordinate or fall with it, rounding included, so the two selected

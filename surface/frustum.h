@@ -1,12 +1,11 @@
 #pragma once
 
+#include "surface/cell.h"
 #include "surface/plane.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
-
-struct BoundingBox;
 
 /// View-frustum culling of axis-aligned boxes, with three classic accelerations: of a box only the
 /// corners nearest to and farthest along each plane's normal are tested (n-vertex and p-vertex),
@@ -47,6 +46,12 @@ public:
     /// A box outside the view but outside no single plane, near an edge of the frustum, passes.
     /// Such a false positive is harmless: OpenGL clips what is drawn of it.
     std::uint8_t classifyBox(BoundingBox& box, std::uint8_t inheritedMask) const;
+
+    /// What `classifyBox` gives for each octant of `cell` whose bit is set in `octants`; the others
+    /// are undefined. Tests all of them against a plane at once, first against the cell's
+    /// `lastCullingPlane`, which becomes the plane that rejected an octant last.
+    OctantMasks classifyOctants(BoundingBox& cell, unsigned octants,
+                                std::uint8_t inheritedMask) const;
 
 private:
     enum class Side { outside, crossing, inside };

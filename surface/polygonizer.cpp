@@ -84,11 +84,11 @@ void setCornerSamples(CornerSamples& samples, const BoundingBox& box, const Corn
 }
 
 /// Takes a node for an octant and links it to its parent.
-OctreeNode& addChild(OctreeNode& node, std::size_t octant, const BoundingBox& bounds)
+OctreeNode& addChild(OctreeNode& node, std::size_t octant, const GridLines& lines)
 {
     OctreeNode* const child = nodePool.take();
     node.children[octant] = child;
-    child->bounds.copyExtent(bounds);
+    child->bounds.copyExtent(octantBox(lines, octant));
     child->children.fill(nullptr);
     return *child;
 }
@@ -130,18 +130,19 @@ void Polygonizer::subdivide(OctreeNode& node, const CornerValues& values, std::u
     // Octants with all corners outside: a leaf draws nothing then, no matter what lies within.
     const bool leaves = depth + 1 == maxDepth;
     const unsigned reaching = leaves ? 0 : nearbyBalls.octantsReaching(depth, threshold);
-    for (unsigned open = octantsToVisit(cases, reaching) & met; open != 0; open &= open - 1) {
+    const unsigned candidates = octantsToVisit(cases, reaching) & met;
+    testedBox.copyExtent(node.bounds);
+    const OctantMasks visibilities = viewFrustum.classifyOctants(testedBox, candidates, visibility);
+    unsigned open = candidates & octantsWith(visibilities[0] != 0, visibilities[1] != 0);
+    for (; open != 0; open &= open - 1) {
         const auto k = static_cast<std::size_t>(std::countr_zero(open));
-        testedBox.copyExtent(octantBox(lines, k));
-        const std::uint8_t childVisibility = viewFrustum.classifyBox(testedBox, visibility);
-        if (childVisibility == 0)
-            continue;
-        OctreeNode& child = addChild(node, k, testedBox);
+        OctreeNode& child = addChild(node, k, lines);
         if (leaves) {
             leafBatch.add(k, maskOf(cases, k));
         } else {
             nearbyBalls.enterOctant(depth, k);
-            subdivide(child, octantCorners(grid, k), depth + 1, maskOf(cases, k), childVisibility);
+            subdivide(child, octantCorners(grid, k), depth + 1, maskOf(cases, k),
+                      maskOf(visibilities, k));
         }
     }
     // All leaves among the octants are drawn together here, in the order of their visit.

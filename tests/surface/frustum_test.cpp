@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -49,4 +50,33 @@ TEST(Frustum, ClassifiesBoxes)
     const auto& [low_x, high_x, low_y, high_y, low_z, high_z] = viewFrustum.selectors[0];
     EXPECT_EQ((std::array{low_x, high_x, low_y, high_y, low_z, high_z}),
               (std::array{0u, 1u, 1u, 0u, 1u, 0u})); // the normal is (1, 0, 0)
+}
+
+TEST(Frustum, ClassifiesOctantsAsItDoesTheirBoxes)
+{
+    for (int i = 0; i < 2000; ++i) {
+        if (i < 1000)
+            surface_world::seeWindow(4.0f / 3.0f);
+        else
+            surface_world::seeBox(450); // octants touch it
+        const auto at = [](int step) { return 300.0f * static_cast<float>(step - 5); };
+        const Vec3 low(at(i % 10), at(i / 10 % 10), at(i / 100 % 10));
+        BoundingBox cell(low, low + Vec3(300));
+        cell.lastCullingPlane = i % 7 - 1;
+        const bool noneBefore = cell.lastCullingPlane == -1;
+        const auto inherited = static_cast<std::uint8_t>(i % 3 == 0 ? 0b100101 : 0);
+        const OctantMasks masks = viewFrustum.classifyOctants(cell, 0xff, inherited);
+        const unsigned seen = octantsWith(masks[0] != 0, masks[1] != 0);
+        EXPECT_EQ(noneBefore && cell.lastCullingPlane == -1, noneBefore && seen == 0xff) << i;
+        for (std::size_t k = 0; k < cornerCount; ++k) {
+            const Vec3 corner = cornerPosition(cell, k);
+            const Vec3 middle = low + Vec3(150);
+            BoundingBox octant({std::min(corner.x, middle.x), std::min(corner.y, middle.y),
+                                std::min(corner.z, middle.z)},
+                               {std::max(corner.x, middle.x), std::max(corner.y, middle.y),
+                                std::max(corner.z, middle.z)});
+            EXPECT_EQ(maskOf(masks, k), viewFrustum.classifyBox(octant, inherited))
+                << i << ' ' << k;
+        }
+    }
 }
