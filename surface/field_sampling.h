@@ -32,10 +32,13 @@ inline Grid sampleGrid(std::span<const NearbyBall> balls, const GridLines& lines
             const Float4 dy = lines[b][1] - ball.y;
             for (std::size_t e = 0; e < 3; ++e) {
                 const Float4 dz = lines[e][2] - ball.z;
-                sums[b][e] += fieldShare(ball.falloff, dx * dx + dy * dy + dz * dz);
+                sums[b][e] += quarterShare(ball.falloff, dx * dx + dy * dy + dz * dz);
             }
         }
     }
+    for (auto& plane : sums)
+        for (Float4& row : plane)
+            row *= 4.0f;
     return sums;
 }
 

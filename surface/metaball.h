@@ -1,16 +1,20 @@
 #pragma once
 
+#include "surface/float4.h"
 #include "surface/sphere.h"
 #include "surface/vec3.h"
 
-/// A ball's share of the field at the squared distance `d2` from its centre: the quartic kernel
-/// (1 - d²/R²)² within the radius R, 0 from there on. With s = d²/2R² that is 4(s² - s + 1/4).
-/// Works on floats, and on Float4 lane by lane with the same rounding.
+/// A quarter of a ball's share of the field at the squared distance `d2` from its centre. The share
+/// is the quartic kernel (1 - d²/R²)² within the radius R and 0 from there on. With s = d²/2R² a
+/// quarter of it is s² - s + 1/4; s is held at 1/2, where that is exactly 0.
+///
+/// Sums take the quarters and multiply once at the end: multiplying by 4 is exact, so the bits are
+/// those of a sum of shares. Works on floats, and on Float4 lane by lane with the same rounding.
 template <typename Real>
-constexpr Real fieldShare(Real falloff, Real d2)
+Real quarterShare(Real falloff, Real d2)
 {
-    const Real s = falloff * d2;
-    return s >= 0.5f ? Real{} : 4.0f * (s * s - s + 0.25f);
+    const Real s = lesser(Real{} + 0.5f, falloff * d2);
+    return s * s - s + 0.25f;
 }
 
 /// One source of the field: 1 at its centre, falling to 0 with zero slope at its radius.
@@ -30,7 +34,7 @@ struct Metaball {
         const float dx = x - centre.x;
         const float dy = y - centre.y;
         const float dz = z - centre.z;
-        return fieldShare(falloff, dx * dx + dy * dy + dz * dz);
+        return 4.0f * quarterShare(falloff, dx * dx + dy * dy + dz * dz);
     }
 
     /// Makes `bounds` follow a centre and radius that were written without `set`.

@@ -13,7 +13,7 @@ Vec3 surfaceTexCoord(std::span<const Metaball> balls, const Vec3& p, float value
     BackwardSamples<float> samples;
     for (const auto& [radius, falloff, centre, bounds] : balls)
         samples.add(falloff, {centre.x, centre.y, centre.z}, {p.x, p.y, p.z});
-    samples.value = valueAtP; // the caller's, as the declaration says; usually the same
+    samples.value = 0.25f * valueAtP; // the caller's, as the declaration says; usually the same
     const auto [s, t, z] = samples.texCoord();
     return {s, t, z};
 }

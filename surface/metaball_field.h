@@ -26,8 +26,8 @@ struct Coordinates {
     Real x, y, z;
 };
 
-/// The field at a point, and one `gradientStep` before it along each axis. A template, so that one
-/// vertex and four of them get the same bits from the same lines.
+/// A quarter of the field at a point, and one `gradientStep` before it along each axis. A template,
+/// so that one vertex and four of them get the same bits from the same lines.
 template <typename Real>
 struct BackwardSamples {
     Real value{};
@@ -43,17 +43,18 @@ struct BackwardSamples {
         const Real bx = p.x - gradientStep - centre.x;
         const Real by = p.y - gradientStep - centre.y;
         const Real bz = p.z - gradientStep - centre.z;
-        value += fieldShare(falloff, dx * dx + dy * dy + dz * dz);
-        before.x += fieldShare(falloff, bx * bx + dy * dy + dz * dz);
-        before.y += fieldShare(falloff, dx * dx + by * by + dz * dz);
-        before.z += fieldShare(falloff, dx * dx + dy * dy + bz * bz);
+        value += quarterShare(falloff, dx * dx + dy * dy + dz * dz);
+        before.x += quarterShare(falloff, bx * bx + dy * dy + dz * dz);
+        before.y += quarterShare(falloff, dx * dx + by * by + dz * dz);
+        before.z += quarterShare(falloff, dx * dx + dy * dy + bz * bz);
     }
 
     /// The unit vector along which the field falls, with x and y mapped from [-1, 1] to [0, 1]:
     /// these two are the texture coordinate. A flat field gives (0.5, 0.5, 0).
     Coordinates<Real> texCoord() const
     {
-        // The field falls outwards, so the backward differences point out of the surface.
+        // The field falls outwards, so the backward differences point out of the surface. They are
+        // quarters, too, which the unit vector does not show, not even in its last bit.
         const Real gx = before.x - value;
         const Real gy = before.y - value;
         const Real gz = before.z - value;

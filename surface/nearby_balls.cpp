@@ -95,11 +95,11 @@ unsigned NearbyBalls::octantsReaching(std::uint32_t depth, float level) const
     std::array<Float4, 2> bounds{};
     for (const auto& [ball, toOctants2] : at(depth))
         for (std::size_t half = 0; half < 2; ++half)
-            bounds[half] += fieldShare(ball->falloff, toOctants2[half]);
+            bounds[half] += quarterShare(ball->falloff, toOctants2[half]);
 
     // Far more than rounding can add to the bound or the samples.
     const float slack = 1e-5f * static_cast<float>(ballCount) * std::max(1.0f, level);
-    const float lowest = level - slack;
+    const float lowest = 0.25f * (level - slack);
     return ~octantsWith(bounds[0] < lowest, bounds[1] < lowest) & 0xff;
 }
 
