@@ -124,7 +124,7 @@ void Polygonizer::subdivide(OctreeNode& node, const CornerValues& values, std::u
     }
 
     const GridLines lines = gridLines(node.bounds);
-    const Grid grid = sampleGrid(nearbyBalls.at(depth), lines);
+    const Grid grid = sampleGrid(nearbyBalls.at(depth), lines, values);
     const OctantMasks cases = octantCases(grid, threshold);
     const unsigned met = nearbyBalls.measureOctants(depth, lines);
     // Octants with all corners outside: a leaf draws nothing then, no matter what lies within.
