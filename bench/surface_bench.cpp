@@ -2,51 +2,22 @@
 // those of the surface's room, and ours. One run holds all three, so that their ratios can be
 // trusted.
 
+#include "bench/film.h"
 #include "surface/frustum.h"
 #include "surface/metaball_surface.h"
 #include "surface/view_frustum.h"
 #include "tests/support/literal_surface.h"
 #include "tests/support/surface_world.h"
-#include "zrk/shaders/shader.h"
 
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
-#include <array>
+#include <cstddef>
 #include <cstdint>
-#include <vector>
 
 /// `drawLiterally`, built with the flags of the surface's room.
 void drawLiterallyWithRoomFlags(const MetaballSurface& surface);
 
 namespace {
-
-// So many that no branch predictor learns them, spread over half a minute of animation.
-constexpr std::uint32_t frameCount = 64;
-constexpr float timeBetweenFrames = 0.5f; // on the animation clock
-
-/// One surface and where its balls are in each frame.
-class Film {
-public:
-    MetaballSurface surface;
-
-    Film(std::uint32_t depth, std::uint32_t ballCount, std::uint32_t seed)
-    {
-        for (std::uint32_t frame = 0; frame < frameCount; ++frame) {
-            const float time = timeBetweenFrames * static_cast<float>(frame);
-            surface_world::setUp(surface, seed, time, ballCount);
-            frames[frame].assign(surface.balls.get(), surface.balls.get() + ballCount);
-        }
-        surface.depthSetting = depth;
-        surface.shader = &shader;
-    }
-
-    void placeBalls(std::size_t frame) { std::ranges::copy(frames[frame], surface.balls.get()); }
-
-private:
-    zrk::Shader shader;
-    std::array<std::vector<Metaball>, frameCount> frames;
-};
 
 /// One iteration is one frame. Arguments: depth, number of balls, seed.
 template <typename Draw>
@@ -61,7 +32,7 @@ void drawFrames(benchmark::State& state, bool wholeRegion, Draw draw)
     draw(film.surface); // the first frame allocates
     std::size_t frame = 0;
     for ([[maybe_unused]] auto _ : state) {
-        film.placeBalls(frame++ % frameCount);
+        film.placeBalls(frame++);
         draw(film.surface);
     }
 }
@@ -77,7 +48,7 @@ void saverScenes(benchmark::internal::Benchmark* bench)
     bench->ArgNames({"depth", "balls", "seed"})->Unit(benchmark::kMicrosecond);
     for (std::int64_t seed = 1; seed <= 9; ++seed)
         bench->Args({5, 12, seed});
-    bench->Iterations(benchmark::IterationCount{2} * frameCount);
+    bench->Iterations(benchmark::IterationCount{2} * Film::frameCount);
 }
 
 /// Other depths, and many balls: half a film, since the finest cells take long.
@@ -86,7 +57,7 @@ void otherScenes(benchmark::internal::Benchmark* bench)
     bench->ArgNames({"depth", "balls", "seed"})->Unit(benchmark::kMicrosecond);
     for (const std::int64_t depth : {4, 6, 7, 8})
         bench->Args({depth, 12, 1});
-    bench->Args({5, 192, 1})->Iterations(frameCount / 2);
+    bench->Args({5, 192, 1})->Iterations(Film::frameCount / 2);
 }
 
 BENCHMARK_CAPTURE(drawFrames, literal_in_view, false, drawLiterally)->Apply(saverScenes);

@@ -17,7 +17,6 @@ RATIOS = [
        f"drawFrames/ours_{extent}/{scene}")
       for literal in ("literal", "literal_room_flags") for extent in ("in_view", "whole")
       for scene in SCENES],
-    ("polygonised and sent / sent alone", "polygonizedAndSent", "sendingAlone"),
     ("frame on the kept picture without its copy / on the window's", "frameWithoutCopy",
      "frameOnWindowsBuffer"),
     ("frame on the kept picture / on the window's buffer", "frameOnBackBuffer",
@@ -33,9 +32,11 @@ def medians(paths):
         with open(path, encoding="utf-8") as file:
             for run in json.load(file)["benchmarks"]:
                 if run.get("aggregate_name") == "median":
-                    name = run["run_name"].split("/iterations")[0].removesuffix("/real_time")
-                    # A busy machine does not count where one thread does all the work.
-                    time = run["cpu_time" if name.startswith("drawFrames") else "real_time"]
+                    name = run["run_name"].split("/iterations")[0]
+                    # CPU time where this process does all the work: a busy machine does not count.
+                    cpu = name.startswith("drawFrames") or name.endswith("/process_time")
+                    time = run["cpu_time" if cpu else "real_time"]
+                    name = name.removesuffix("/real_time").removesuffix("/process_time")
                     times[name] = time * NANOSECONDS[run["time_unit"]]
     return times
 

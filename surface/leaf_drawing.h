@@ -14,6 +14,7 @@ struct EdgeVertex {
 };
 
 /// Sends the triangles of a leaf cell to OpenGL in immediate mode, between one begin and end, in
-/// the order of `triTable`. `caseIndex` must have a triangle.
+/// the order of `triTable`. `caseIndex` must have a triangle; `vertexOfEdge` says where among
+/// `vertices` those of the crossed edges are.
 void drawLeaf(std::span<const EdgeVertex> vertices,
               const std::array<std::uint8_t, edgeCount>& vertexOfEdge, std::uint8_t caseIndex);
