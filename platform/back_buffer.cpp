@@ -83,6 +83,25 @@ void attach(GLuint framebuffer, GLuint pixels)
     glFramebufferRenderbuffer(GL_DRAW_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, pixels);
 }
 
+// Two framebuffers with the same pixels, the second one bound for drawing; both 0 on failure. A
+// driver that is out of memory may return names of 0, which must not be used: 0 is the window's own
+// framebuffer, to which nothing can be attached.
+std::array<GLuint, 2> makeFramebuffers(GLuint pixels)
+{
+    std::array<GLuint, 2> names{};
+    glGenFramebuffers(2, names.data());
+    if (names[0] == 0 || names[1] == 0) {
+        glGetError(); // clears GL_OUT_OF_MEMORY
+    } else {
+        for (const GLuint name : names)
+            attach(name, pixels);
+        if (glCheckFramebufferStatus(GL_DRAW_FRAMEBUFFER) == GL_FRAMEBUFFER_COMPLETE)
+            return names;
+    }
+    glDeleteFramebuffers(2, names.data());
+    return {};
+}
+
 // Sets the alpha of the draw framebuffer to 1, and its colours to black where `colours` is GL_TRUE.
 void clear(GLboolean colours)
 {
@@ -116,18 +135,14 @@ bool BackBuffer::create(desktop::Size size, GLenum wantedFormat)
         const GLuint made = makePixels(wantedFormat, size);
         if (made == 0)
             return false;
-        std::array<GLuint, 2> targets{};
-        glGenFramebuffers(2, targets.data());
-        for (const GLuint target : targets)
-            attach(target, made);
-        if (glCheckFramebufferStatus(GL_DRAW_FRAMEBUFFER) != GL_FRAMEBUFFER_COMPLETE) {
-            glDeleteFramebuffers(2, targets.data());
+        const std::array<GLuint, 2> framebuffers = makeFramebuffers(made);
+        if (framebuffers[0] == 0) {
             glDeleteRenderbuffers(1, &made);
             return false;
         }
         clear(GL_TRUE);
-        drawTarget = targets[0];
-        copySource = targets[1];
+        drawTarget = framebuffers[0];
+        copySource = framebuffers[1];
         pixels = made;
         format = wantedFormat;
         extent = size;

@@ -2,6 +2,7 @@
 
 #include "platform/back_buffer.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <initializer_list>
@@ -9,6 +10,23 @@
 #include <vector>
 
 using namespace platform::desktop;
+
+namespace {
+
+bool outOfFramebuffers = false;
+
+} // namespace
+
+// Linked in place of the library's.
+void glGenFramebuffers(GLsizei count, GLuint* names)
+{
+    using AnyFunction = void (*)();
+    static const auto real = reinterpret_cast<AnyFunction>(glProcedure("glGenFramebuffers"));
+    if (outOfFramebuffers)
+        std::fill_n(names, count, 0);
+    else
+        reinterpret_cast<PFNGLGENFRAMEBUFFERSPROC>(real)(count, names);
+}
 
 namespace {
 
@@ -130,4 +148,15 @@ TEST_F(BackBuffer, ReadsAnAlphaOf1InAFormatWithAlphaToo)
         picture.present();
         EXPECT_EQ(pixelAt(99, 99), (Pixel{0, 0, 255, 255}));
     }
+}
+
+TEST_F(BackBuffer, IsNotCreatedWithoutMemoryForItsFramebuffers)
+{
+    const std::vector<double> before = programsState();
+    platform::BackBuffer none;
+    outOfFramebuffers = true;
+    EXPECT_FALSE(none.create({100, 100}, GL_RGB16));
+    outOfFramebuffers = false;
+    EXPECT_EQ(glGetError(), static_cast<GLenum>(GL_NO_ERROR));
+    EXPECT_EQ(programsState(), before);
 }
