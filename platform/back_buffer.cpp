@@ -38,6 +38,8 @@ private:
     GLint drawFramebuffer = 0, readFramebuffer = 0, renderbuffer = 0;
 };
 
+// Framebuffer objects came with OpenGL 3.0 and, under the same names, with an extension to 2.1. The
+// older EXT extension has other names and no blit.
 bool framebuffersOffered()
 {
     const auto* version = reinterpret_cast<const char*>(glGetString(GL_VERSION));
@@ -116,6 +118,8 @@ void clear(GLboolean colours)
     glColorMask(mask[0], mask[1], mask[2], mask[3]);
 }
 
+// A blit is affected by the scissor test and by the read buffer of the source, nothing else:
+// neither the viewport nor the colour mask nor blending.
 void copy(GLuint source, GLuint target, desktop::Size size)
 {
     glBindFramebuffer(GL_READ_FRAMEBUFFER, source);
@@ -159,6 +163,7 @@ void BackBuffer::fit(desktop::Size size)
     const GLuint made = makePixels(format, size);
     if (made == 0)
         return;
+    // The second framebuffer still has the old pixels: blit from these before it gets the new ones.
     attach(drawTarget, made);
     clear(GL_TRUE);
     copy(copySource, drawTarget,
@@ -174,6 +179,7 @@ void BackBuffer::present() const
     if (drawTarget == 0)
         return;
     const BindingScope restored;
+    // Blending in the program writes alpha too; what it reads there has to be 1, as on a window.
     if (format != GL_RGB16) {
         glBindFramebuffer(GL_DRAW_FRAMEBUFFER, copySource);
         clear(GL_FALSE);

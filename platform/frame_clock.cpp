@@ -10,6 +10,8 @@ void FrameClock::awaitNextFrame()
     timespec time{};
     clock_gettime(CLOCK_MONOTONIC, &time);
     due = nextDueTime(due, time.tv_sec * second + time.tv_nsec, period);
+    // An absolute deadline: a process that was suspended between the two calls does not sleep too
+    // long.
     time = {due / second, due % second};
     clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &time, nullptr);
 }

@@ -46,6 +46,8 @@ std::optional<MSG> HeldReleases::next()
     return message;
 }
 
+// The program looks at its keys now, before it asks for the next message: from here on a release of
+// any key may pass.
 void HeldReleases::endBatch()
 {
     pressed.reset();

@@ -80,6 +80,7 @@ std::optional<MSG> quit()
     return MSG{nullptr, WM_QUIT, code, 0, 0, {}};
 }
 
+// In the order of urgency: a request to end must not wait behind a flood of mouse moves.
 std::optional<MSG> nextMessage()
 {
     for (const auto source : {closeBySignal, nextFromDesktop, quit})
@@ -121,6 +122,7 @@ BOOL PeekMessageA(MSG* message, HWND /*window*/, UINT /*first*/, UINT /*last*/, 
     return TRUE;
 }
 
+// A procedure may dispatch messages itself, so the place of the outer one is restored.
 LRESULT DispatchMessageA(const MSG* message)
 {
     if (message == nullptr)

@@ -49,6 +49,7 @@ ATOM RegisterClassA(const WNDCLASSA* windowClass)
     return atom;
 }
 
+// Atoms are not reused either: a window's class stays its own, even if its name is registered anew.
 BOOL UnregisterClassA(LPCSTR className, HINSTANCE /*instance*/)
 {
     using namespace platform;

@@ -39,6 +39,8 @@ HWND CreateWindowExA(DWORD /*extendedStyle*/, LPCSTR className, LPCSTR windowNam
     const WindowClass windowClass = findWindowClass(className);
     if (windowClass.atom == 0)
         return nullptr;
+    // The size that was asked for is told, whatever size the port gives: that one comes as a
+    // message.
     const desktop::Size client{width, height};
     const desktop::NativeWindow native =
         desktop::createWindow(windowName == nullptr ? "" : windowName, x, y, client);

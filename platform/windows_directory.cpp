@@ -10,6 +10,7 @@ std::filesystem::path windowsDirectory(const char* requested,
 {
     if (requested != nullptr && *requested != '\0')
         return requested;
+    // Relative to the executable, so that a tree that was moved or unpacked anywhere works.
     for (const char* place : {"windows", "../../share/quazo", "../share/quazo"}) {
         std::filesystem::path directory = (executable.parent_path() / place).lexically_normal();
         std::error_code unreadable;

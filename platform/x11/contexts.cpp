@@ -88,6 +88,7 @@ bool leaveContext()
     return glXMakeCurrent(connection(), None, nullptr) != False;
 }
 
+// The back buffer's OpenGL objects are deleted by the driver together with their context.
 bool removeContext(desktop::NativeContext context)
 {
     const auto found = std::find_if(contexts.begin(), contexts.end(),

@@ -33,6 +33,8 @@ DesktopArea areaOf(Display* display, ::Window window)
     return {window, {0, 0}, sizeOf(display, window)};
 }
 
+// RandR 1.5's monitors, not its outputs: a monitor may be several outputs that make one picture, or
+// a part of one that the user has split. Without RandR the whole screen counts as one monitor.
 DesktopArea primaryMonitor(Display* display)
 {
     const ::Window root = DefaultRootWindow(display);

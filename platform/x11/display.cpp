@@ -39,6 +39,7 @@ constinit std::array<Atom, atomCount> atoms{};
 constinit XErrorTrap* innermostTrap = nullptr;
 constinit ErrorObserver observer = nullptr;
 
+// Xlib calls this when the connection is lost, and exits itself if it returns.
 int endQuietly(Display* /*display*/)
 {
     _exit(0);
@@ -110,6 +111,9 @@ int XErrorTrap::note(Display* source, XErrorEvent* error)
 {
     if (observer != nullptr)
         observer(*error);
+    // Errors arrive later than their requests: by then other scopes may have opened. The serial
+    // number of the request tells whether it was made inside a scope; requests are numbered per
+    // connection.
     XErrorTrap* trap = innermostTrap;
     while (trap != nullptr && (trap->server != source || error->serial < trap->firstRequest))
         trap = trap->outer;

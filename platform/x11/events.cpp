@@ -51,6 +51,8 @@ bool onKey(WindowRecord& record, const XEvent& event, Message& result)
     const int code = virtualKey(event.xkey);
     if (code == 0 || (released && isRepeat(event.xkey)))
         return false;
+    // `state` is that before the event: Alt itself (usually the modifier Mod1) is not in it when it
+    // goes down.
     const bool system = code == VK_MENU || (event.xkey.state & Mod1Mask) != 0;
     const UINT pressKind = system ? WM_SYSKEYDOWN : WM_KEYDOWN;
     const UINT releaseKind = system ? WM_SYSKEYUP : WM_KEYUP;
@@ -94,6 +96,7 @@ bool onEnter(WindowRecord& record, const XEvent& event, Message& result)
     return true;
 }
 
+// The wParam of WM_ACTIVATE: low word the kind of activation, high word whether minimised.
 WPARAM activation(const WindowRecord& record, WPARAM active)
 {
     const bool minimised = record.iconic || record.hidden;
@@ -109,6 +112,8 @@ bool onFocus(WindowRecord& record, const XEvent& event, Message& result)
     return true;
 }
 
+// Managers tell of minimised windows by WM_STATE, _NET_WM_STATE, or both, one after the other; only
+// what changes the sum of them is a message.
 bool onProperty(WindowRecord& record, const XEvent& event, Message& result)
 {
     const bool wasMinimised = record.iconic || record.hidden;
@@ -122,6 +127,7 @@ bool onProperty(WindowRecord& record, const XEvent& event, Message& result)
     return true;
 }
 
+// Only updates the record: reportSize makes the message.
 bool onConfigure(WindowRecord& record, const XEvent& event, Message& /*result*/)
 {
     if (record.shown || hosted()) // before it is mapped, a size may be an outdated one

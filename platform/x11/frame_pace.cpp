@@ -49,6 +49,11 @@ RRMode modeOf(Display* display, const DesktopArea& desktop, XRRScreenResources& 
 
 } // namespace
 
+// The dot clock counts pixels per second, blanking included, so a frame takes
+//
+//     hTotal * vTotal / dotClock
+//
+// seconds. With double scan each line is sent twice.
 Nanoseconds framePeriod(const XRRModeInfo& mode)
 {
     auto dots = static_cast<Nanoseconds>(mode.hTotal) * mode.vTotal;

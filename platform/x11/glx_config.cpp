@@ -20,6 +20,8 @@ struct XFreeing {
     void operator()(void* memory) const { XFree(memory); }
 };
 
+// Only the conditions: glXChooseFBConfig also sorts, but by rules that do not fit a saver; the
+// choice among what it returns is made below.
 constexpr auto required = std::to_array<int>({
     GLX_DRAWABLE_TYPE,
     GLX_WINDOW_BIT,
@@ -75,8 +77,12 @@ bool usable(const FormatTraits& format)
 // ones.
 auto sortKey(const FormatTraits& format)
 {
+    // 8 bits a channel are what the screen has; the picture's own precision is that of the back
+    // buffer.
     const int wrongBits =
         std::abs(format.red - 8) + std::abs(format.green - 8) + std::abs(format.blue - 8);
+    // Then as few unused buffers as possible: each takes memory for every pixel of the screen, and
+    // multisampling time too. Swaps that copy come last, since our own back buffer does without.
     return std::tuple(!usable(format), format.visualDepth != 24, format.slow, wrongBits,
                       format.samples, format.alpha, format.depth, format.stencil,
                       format.accumulation, !format.swapCopies);

@@ -82,6 +82,8 @@ bool hosted()
     return named;
 }
 
+// The line names the text as it was given, since a host's user will look for it in a configuration
+// file; exit and not _exit, so that standard output is flushed.
 void adoptHost(Display* display)
 {
     if (!hosted() || adopted)

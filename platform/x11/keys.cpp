@@ -13,7 +13,9 @@ namespace platform::x11 {
 
 namespace {
 
-// The keysyms from `first` to `last` have the codes from `code` on, or all that one code.
+// The keysyms from `first` to `last` have consecutive codes that begin with `code`, or all have
+// that one code. Letters, digits, function keys and arrows are in the same order as keysyms and as
+// codes.
 struct KeyRange {
     KeySym first, last;
     int code;
@@ -91,7 +93,8 @@ int virtualKey(const XKeyEvent& event)
     Display* const display = event.display;
     const auto key = static_cast<KeyCode>(event.keycode);
     const int layout = static_cast<int>(XkbGroupForCoreState(event.state));
-    // Num Lock turns the keypad's keys into digits.
+    // With Num Lock (the modifier Mod2) the keypad's keys are digits, which are their second
+    // keysyms: XKB says KP_End first and KP_1 second. Only there the modifier selects the keysym.
     const KeySym second = XkbKeycodeToKeysym(display, key, layout, 1);
     if ((event.state & Mod2Mask) != 0 && XK_KP_Multiply <= second && second <= XK_KP_9)
         return virtualKeyOf(second);

@@ -105,6 +105,8 @@ struct Layout {
     int x = 0, y = 0, width = 0, height = 0;
 };
 
+// The font grows with the monitor, 64 lines to its height, so that a box can be read on any of
+// them; the text is wrapped at half the monitor's width. The box is centred.
 Layout layoutOf(const char* text)
 {
     constexpr int smallestLetter = 14, linesOnMonitor = 64;
@@ -150,6 +152,8 @@ public:
     // Returns when the box is closed, by the user or by `endDescriptor`.
     void run(int endDescriptor)
     {
+        // FLTK sleeps in poll() on its own connection; with ours and the signals' pipe added,
+        // whatever needs an answer wakes it.
         const VisiblePointer pointer(connection());
         const int saversDescriptor = ConnectionNumber(connection());
         watch(saversDescriptor, [](int, void* box) { static_cast<MessageDialog*>(box)->attend(); });

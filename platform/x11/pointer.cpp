@@ -11,6 +11,8 @@ void setParentsCursor(Display* display, ::Window window)
     XUndefineCursor(display, window);
 }
 
+// The X protocol has no hidden pointer without an extension; a cursor whose mask has no pixel set
+// shows nothing.
 void setEmptyCursor(Display* display, ::Window window)
 {
     constexpr char nothing[1] = {0};

@@ -50,7 +50,8 @@ void writeProperty(Display* display, ::Window window, AtomName name, Atom type,
                     reinterpret_cast<const unsigned char*>(values.data()), static_cast<int>(count));
 }
 
-// Requests about mapped windows are client messages to the root window.
+// Requests about mapped windows are client messages to the root window. The event mask selects the
+// manager: only one client can have SubstructureRedirect on the root.
 void sendToManager(Display* display, ::Window window, AtomName type,
                    const std::array<long, 5>& values)
 {
@@ -102,6 +103,8 @@ void describeWindow(Display* display, ::Window window, const char* title)
                      {atom(AtomName::wmDeleteWindow), atom(AtomName::netWmPing)});
     writeProperty<1>(display, window, AtomName::netWmPid, XA_CARDINAL,
                      {static_cast<unsigned long>(getpid())});
+    // Of the Motif hints the members are flags, functions, decorations, input mode and status. Flag
+    // 2 says that decorations is valid; 0 there means none.
     constexpr unsigned long decorationsAreSet = 2;
     writeProperty<5>(display, window, AtomName::motifWmHints, atom(AtomName::motifWmHints),
                      {decorationsAreSet, 0, 0, 0, 0});
@@ -115,6 +118,7 @@ void describeWindow(Display* display, ::Window window, const char* title)
 
 void requestCover(Display* display, ::Window window)
 {
+    // An action, up to two states, and the source of the request.
     constexpr long add = 1, fromApplication = 1;
     sendToManager(display, window, AtomName::netWmState,
                   {add, static_cast<long>(atom(AtomName::netWmStateAbove)),
@@ -123,6 +127,8 @@ void requestCover(Display* display, ::Window window)
 
 void giveKeyboard(Display* display, ::Window window)
 {
+    // Where a manager runs, setting the focus ourselves would fight with its own idea of the active
+    // window. RevertToPointerRoot: when our window goes, the keyboard follows the pointer.
     if (!managerRuns(display)) {
         XSetInputFocus(display, window, RevertToPointerRoot, CurrentTime);
         return;

@@ -12,6 +12,8 @@ namespace {
 constexpr std::size_t mostWindows = 4;
 constinit std::array<WindowRecord, mostWindows> records{};
 
+// Without GLX a window is still created, for its pixel format to be refused: the program then
+// reports that and not a missing window.
 WindowFormat windowFormat(Display* display)
 {
     const int screen = DefaultScreen(display);
@@ -71,6 +73,7 @@ void mapWindow(Display* display, ::Window window)
     awaitMapped(display, window);
 }
 
+// Flushed, because nothing else may be sent for long: the window is to vanish before a box appears.
 void removeWindow(Display* display, WindowRecord& record)
 {
     XDestroyWindow(display, record.id);
