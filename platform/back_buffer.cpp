@@ -118,8 +118,8 @@ void clear(GLboolean colours)
     glColorMask(mask[0], mask[1], mask[2], mask[3]);
 }
 
-// A blit is affected by the scissor test and by the read buffer of the source, nothing else:
-// neither the viewport nor the colour mask nor blending.
+// A blit bypasses the fragment pipeline: colour mask, blending and viewport do not affect it. The
+// scissor test and the read and draw buffers do.
 void copy(GLuint source, GLuint target, desktop::Size size)
 {
     glBindFramebuffer(GL_READ_FRAMEBUFFER, source);
