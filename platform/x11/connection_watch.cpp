@@ -6,14 +6,12 @@
 #include <fcntl.h>
 #include <sys/socket.h>
 #include <unistd.h>
-#include <utility>
 
 namespace platform::x11 {
 
 namespace {
 
 constinit Display* server = nullptr;
-constinit bool tried = false;
 constinit volatile std::sig_atomic_t watched = -1; // the connection's socket, once watching
 constinit std::array<char, 32> event{};            // each event of the X protocol has 32 bytes
 constinit std::size_t received = 0;                // of these
@@ -56,8 +54,7 @@ void handleInputSignal()
 
 void openWatch()
 {
-    if (!std::exchange(tried, true))
-        server = XOpenDisplay(nullptr);
+    server = XOpenDisplay(nullptr);
 }
 
 void startWatch(::Window window)
@@ -81,7 +78,6 @@ void startWatch(::Window window)
 
 void closeWatch()
 {
-    tried = false;
     if (server == nullptr)
         return;
     const int socket = ConnectionNumber(server);

@@ -8,8 +8,8 @@
 /// which tells of its input by a signal (SIGIO).
 namespace platform::x11 {
 
-/// Opens the second connection, unless that was tried. To be called before the first one is opened: a
-/// server that ends closes its connections in the order of their opening.
+/// Opens the second connection. To be called before the first one is opened: a server that ends
+/// closes its connections in the order of their opening.
 void openWatch();
 
 /// Starts to watch the server and this window (0: none).

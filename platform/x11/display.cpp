@@ -1,5 +1,7 @@
 #include "platform/x11/display.h"
 
+#include "platform/x11/connection_watch.h"
+
 #include <X11/XKBlib.h>
 
 #include <array>
@@ -60,13 +62,13 @@ Display* openConnection()
 {
     if (std::exchange(tried, true))
         return theConnection;
-    theConnection = XOpenDisplay(nullptr);
-    if (theConnection == nullptr)
-        return nullptr;
     observer = nullptr;
     XSetErrorHandler(&XErrorTrap::note); // for every connection of this process
     XSetIOErrorHandler(&endQuietly);
-    prepare(theConnection);
+    openWatch();
+    theConnection = XOpenDisplay(nullptr);
+    if (theConnection != nullptr)
+        prepare(theConnection);
     return theConnection;
 }
 
@@ -81,6 +83,7 @@ void closeConnection()
         XCloseDisplay(theConnection);
     theConnection = nullptr;
     tried = false;
+    closeWatch();
 }
 
 void observeErrors(ErrorObserver newObserver)

@@ -39,7 +39,6 @@ Display* connected()
 {
     if (connection() != nullptr)
         return connection();
-    openWatch();
     Display* const display = openConnection();
     if (display == nullptr)
         return nullptr;
@@ -156,7 +155,6 @@ void disconnect()
     forgetWindows();
     releaseHost();
     closeConnection();
-    closeWatch();
 }
 
 NativeWindow createWindow(const char* title, int x, int y, Size client)
