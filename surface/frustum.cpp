@@ -62,6 +62,7 @@ OctantMasks Frustum::classifyOctants(BoundingBox& cell, unsigned octants,
     int plane = last >= 0 && (untested >> last & 1u) != 0 ? last : std::countr_zero(untested);
     for (; untested != 0 && open != 0; plane = std::countr_zero(untested)) {
         untested &= ~(1u << plane);
+        const std::int32_t bit = 1 << plane;
         const auto& [d, n] = testedPlanes[static_cast<std::size_t>(plane)];
         const Float4 normal{n.x, n.y, n.z};
         const Float4 atLow = normal * low;
@@ -71,7 +72,7 @@ OctantMasks Frustum::classifyOctants(BoundingBox& cell, unsigned octants,
         const auto far = octantSums(greater(atLow, atMiddle), greater(atMiddle, atHigh));
         for (std::size_t half = 0; half < 2; ++half) {
             outside[half] |= near[half] + d > 0.0f;
-            contained[half] |= (far[half] + d <= 0.0f) & (1 << plane);
+            contained[half] |= (far[half] + d <= 0.0f) & Int4{bit, bit, bit, bit};
         }
         const unsigned left = octants & ~octantsWith(outside[0], outside[1]);
         if (left != open)
