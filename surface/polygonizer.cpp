@@ -133,8 +133,8 @@ void Polygonizer::subdivide(OctreeNode& node, const CornerValues& values, std::u
     const unsigned candidates = octantsToVisit(cases, reaching) & met;
     testedBox.copyExtent(node.bounds);
     const OctantMasks visibilities = viewFrustum.classifyOctants(testedBox, candidates, visibility);
-    unsigned open = candidates & octantsWith(visibilities[0] != 0, visibilities[1] != 0);
-    for (; open != 0; open &= open - 1) {
+    const unsigned visited = candidates & octantsWith(visibilities[0] != 0, visibilities[1] != 0);
+    for (unsigned open = visited; open != 0; open &= open - 1) {
         const auto k = static_cast<std::size_t>(std::countr_zero(open));
         OctreeNode& child = addChild(node, k, lines);
         if (leaves) {
@@ -146,7 +146,7 @@ void Polygonizer::subdivide(OctreeNode& node, const CornerValues& values, std::u
         }
     }
     // All leaves among the octants are drawn together here, in the order of their visit.
-    if (leaves) {
+    if (leaves && visited != 0) {
         setGridPoints(leafBatch.points, grid, lines);
         leafBatch.draw(nearbyBalls.at(depth), threshold);
     }

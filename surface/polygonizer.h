@@ -20,8 +20,8 @@ struct Metaball;
 /// frame at a time only.
 class Polygonizer {
 public:
-    /// Begins a frame. The balls' bounds must be in step with them. No memory for the lists of
-    /// balls is `Cexception`.
+    /// Begins a frame, before the other functions. The balls' bounds must be in step with them.
+    /// Without memory for the lists of balls it throws `Cexception`.
     void begin(std::span<const Metaball> balls, const BoundingBox& region,
                std::uint32_t newMaxDepth, float newThreshold);
 
@@ -31,7 +31,7 @@ public:
     void subdivide(OctreeNode& node, const CornerValues& values, std::uint32_t depth,
                    std::uint8_t caseIndex, std::uint8_t visibility);
 
-    /// Draws the triangles of a leaf cell, if it has any.
+    /// Draws the triangles of a leaf cell by itself, if it has any.
     void polygonizeLeaf(const CornerSamples& samples, std::uint8_t caseIndex);
 
 private:
@@ -39,9 +39,9 @@ private:
     float threshold = 0.0f;
     NearbyBalls nearbyBalls;
 
-    /// One box for every cell tested, in this frame and the next: the plane that rejected the last
-    /// cell is likely to reject the next one.
+    /// The cell whose octants are tested against the frustum: one box for all cells and frames, so
+    /// that the plane that rejected an octant last is tested first.
     BoundingBox testedBox;
-    CornerSamples leafSamples;
+    CornerSamples leafSamples; ///< Of a region that is itself a leaf.
     LeafBatch leafBatch;
 };
