@@ -49,7 +49,7 @@ check_format()
         return
         ;;
     esac
-    find app bench platform surface tests tools zrk -name "*.h" -o -name "*.cpp" |
+    find app bench fuzz platform surface tests tools zrk -name "*.h" -o -name "*.cpp" |
         xargs clang-format --dry-run --Werror
 }
 
@@ -82,7 +82,7 @@ run_clang_tidy()
         { grep -E '(error|warning):' "$log"; return 1; }
 }
 
-step "packages" "" require_packages $build_packages $run_packages $test_packages
+step "packages" "" require_packages $build_packages $run_packages $test_packages $fuzz_packages
 step "layers" "" check_layers
 step "format" "" check_format
 step "release build" "packages" build release
@@ -92,6 +92,7 @@ else
     step "release tests" "release build" run_tests release
     step "sanitizer build" "packages" build sanitize
     step "sanitizer tests" "sanitizer build" run_tests sanitize
+    step "fuzzers" "packages" scripts/fuzz.sh 3
     step "hosts" "release build" scripts/try_hosts.sh
     step "package" "release build" build_package
     step "clang-tidy" "release build" run_clang_tidy

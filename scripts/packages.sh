@@ -4,6 +4,7 @@ build_packages="cmake ninja-build g++ pkg-config libsdl1.2-dev libsdl-image1.2-d
     libgl-dev libglu1-mesa-dev libx11-dev libxext-dev libxrandr-dev libpng-dev"
 run_packages="libgl1-mesa-dri"
 virtual_display_packages="xvfb scrot"
+fuzz_packages="clang libclang-rt-dev"
 test_packages="python3 clang-format clang-tidy libgtest-dev libgmock-dev libbenchmark-dev
     libxtst-dev libxfixes-dev xvfb openbox scrot procps xscreensaver xsecurelock dpkg-dev file lintian"
 
