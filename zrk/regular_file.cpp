@@ -1,7 +1,8 @@
 #include "zrk/regular_file.h"
 
-#if __has_include(<unistd.h>)
-#include <fcntl.h>
+#include <fcntl.h> // defines O_NONBLOCK on POSIX systems
+
+#ifdef O_NONBLOCK
 #include <sys/stat.h>
 #include <unistd.h>
 #else
@@ -10,7 +11,7 @@
 
 namespace zrk {
 
-#if __has_include(<unistd.h>)
+#ifdef O_NONBLOCK
 
 OwnedFile openRegularFile(const char* fileName, std::uint64_t mostBytes)
 {
