@@ -6,9 +6,9 @@
 
 namespace zrk {
 
-LayerText::LayerText(String& text, Keyword layer, int decimalCount)
+LayerText::LayerText(String& text, Keyword layer, Decimals colorDecimals)
     : out(text),
-      decimals(decimalCount)
+      decimals(colorDecimals)
 {
     out = wordOf(layer);
     out += ": ";
@@ -44,9 +44,9 @@ LayerText& LayerText::lastWord(std::span<const WordValue> accepted, GLenum value
 LayerText& LayerText::lastNumbers(std::span<const GLfloat, 4> values)
 {
     char text[256]; // 4 times at most 39 digits, sign, point and decimals
-    std::snprintf(text, sizeof text, "<%.*f, %.*f, %.*f, %.*f>", decimals, double{values[0]},
-                  decimals, double{values[1]}, decimals, double{values[2]}, decimals,
-                  double{values[3]});
+    std::snprintf(text, sizeof text,
+                  decimals == Decimals::four ? "<%.4f, %.4f, %.4f, %.4f>" : "<%f, %f, %f, %f>",
+                  double{values[0]}, double{values[1]}, double{values[2]}, double{values[3]});
     out += text;
     return *this;
 }

@@ -9,17 +9,15 @@ namespace zrk {
 
 class String;
 
-/// Decimals of a colour: in `write` and most `toText`, and in `toText` of the texture layers.
-inline constexpr int printedDecimals = 6;
-inline constexpr int textDecimals = 4;
+/// Decimals of a colour: six in `write` and most `toText`, four in `toText` of the texture layers.
+enum class Decimals { four, six };
 
 /// Builds the text of a layer's line, the inverse of `ParameterReader`. Every parameter but the
 /// last is followed by ", ". A value without a word is left out together with its separator.
 class LayerText {
 public:
-    /// Replaces `text`, which is borrowed, by the keyword `layer` and a colon. Colours are printed
-    /// with `decimalCount` digits after the point.
-    LayerText(String& text, Keyword layer, int decimalCount = printedDecimals);
+    /// Replaces `text`, which is borrowed, by the keyword `layer` and a colon.
+    LayerText(String& text, Keyword layer, Decimals colorDecimals = Decimals::six);
 
     LayerText& integer(std::int32_t value);
     LayerText& word(std::span<const WordValue> accepted, GLenum value);
@@ -32,7 +30,7 @@ private:
     LayerText& separator();
 
     String& out;
-    int decimals;
+    Decimals decimals;
 };
 
 } // namespace zrk

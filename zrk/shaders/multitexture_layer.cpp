@@ -63,13 +63,13 @@ void MultitextureLayer::readBack()
 
 void MultitextureLayer::toText(String& out) const
 {
-    describe(out, textDecimals);
+    describe(out, Decimals::four);
 }
 
 void MultitextureLayer::write(std::FILE* out) const
 {
     String text;
-    describe(text, printedDecimals);
+    describe(text, Decimals::six);
     std::fprintf(out, "  %s", text.cString());
 }
 
@@ -98,7 +98,7 @@ std::uint32_t MultitextureLayer::enableUnits() const
     return shown;
 }
 
-void MultitextureLayer::describe(String& out, int decimals) const
+void MultitextureLayer::describe(String& out, Decimals decimals) const
 {
     LayerText text(out, Keyword::multitexture, decimals);
     text.integer(static_cast<std::int32_t>(stageCount));

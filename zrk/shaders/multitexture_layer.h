@@ -10,6 +10,7 @@
 namespace zrk {
 
 class LineTokens;
+enum class Decimals;
 class Shader;
 
 /// One texture unit's part: the texture's position in the `TexturePool`, and its state.
@@ -52,7 +53,7 @@ private:
     /// Enables the layer's units and returns how many stages can be applied.
     std::uint32_t enableUnits() const;
 
-    void describe(String& out, int decimals) const;
+    void describe(String& out, Decimals decimals) const;
 };
 
 /// Adds the layer described by the rest of `line`. A faulty line adds nothing. A stage count below

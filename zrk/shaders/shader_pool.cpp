@@ -33,7 +33,8 @@ void reportCount(std::uint32_t count, std::FILE* log)
 {
     // Meant: the line says "textures", the number is that of the shaders.
     std::fprintf(log, "%s, ", messageFor(ShaderResult::ok));
-    std::fprintf(log, count > 1 ? "%u textures loaded\n" : "%u texture loaded\n", count);
+    std::fprintf(log, count > 1 ? "%d textures loaded\n" : "%d texture loaded\n",
+                 static_cast<int>(count));
     std::fflush(log);
 }
 

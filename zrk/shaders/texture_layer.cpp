@@ -38,13 +38,13 @@ void TextureLayer::readBack()
 
 void TextureLayer::toText(String& out) const
 {
-    describe(out, textDecimals);
+    describe(out, Decimals::four);
 }
 
 void TextureLayer::write(std::FILE* out) const
 {
     String text;
-    describe(text, printedDecimals);
+    describe(text, Decimals::six);
     std::fprintf(out, "  %s", text.cString());
 }
 
@@ -53,7 +53,7 @@ void TextureLayer::resolve(const TexturePool& pool)
     resolveTextureState(state, index, pool);
 }
 
-void TextureLayer::describe(String& out, int decimals) const
+void TextureLayer::describe(String& out, Decimals decimals) const
 {
     LayerText text(out, Keyword::texture, decimals);
     writeTextureWords(text, index, state);

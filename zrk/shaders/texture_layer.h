@@ -7,6 +7,7 @@
 namespace zrk {
 
 class LineTokens;
+enum class Decimals;
 class Shader;
 
 /// One texture on unit 0. Only the first `apply` sets the unit's environment; later calls leave the
@@ -25,7 +26,7 @@ public:
     LayerKind kind() const override { return LayerKind::texture; }
 
 private:
-    void describe(String& out, int decimals) const;
+    void describe(String& out, Decimals decimals) const;
 };
 
 /// Adds the layer described by the rest of `line`. A faulty line adds nothing.
