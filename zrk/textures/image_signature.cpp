@@ -93,6 +93,38 @@ bool isSoundPcx(std::FILE* file)
     return fitsSurface(width, height) && 8 * word(66) >= width * bitsPerPixel;
 }
 
+/// The next number of a PNM header, at most 655359; white space and comments before it are skipped.
+/// 0 for anything else.
+int readPnmNumber(std::FILE* file)
+{
+    int character = std::getc(file);
+    while (character > 0 && std::strchr("# \t\n\v\f\r", character) != nullptr) {
+        if (character == '#')
+            while (character != '\n' && character != '\r' && character != EOF)
+                character = std::getc(file);
+        character = std::getc(file);
+    }
+    int number = 0;
+    for (; character >= '0' && character <= '9' && number < 65536; character = std::getc(file))
+        number = 10 * number + (character - '0');
+    return number;
+}
+
+// The decoder reads a missing number of a text format (P1 to P3) as 0, and would go on for minutes
+// behind the end of a file of ten bytes.
+bool isSoundPnm(std::FILE* file)
+{
+    std::getc(file);
+    const int kind = std::getc(file);
+    const int width = readPnmNumber(file);
+    const int height = readPnmNumber(file);
+    if (!fitsSurface(width, height))
+        return false;
+    const long here = std::ftell(file);
+    const long numbers = kind > '3' ? 0 : long{width} * height * (kind == '3' ? 3 : 1);
+    return std::fseek(file, 0, SEEK_END) == 0 && std::ftell(file) - here >= numbers;
+}
+
 struct Signature {
     std::string_view bytes; // '?' stands for any byte
     bool (*isSound)(std::FILE* file) = nullptr;
@@ -107,12 +139,12 @@ constexpr Signature signatures[] = {
     {"FORM????PBM "sv, isSoundLbm},
     {"\xff\xd8\xff"sv}, // JPEG
     {"BM"sv},
-    {"P1"sv}, // PNM: P1 to P6
-    {"P2"sv},
-    {"P3"sv},
-    {"P4"sv},
-    {"P5"sv},
-    {"P6"sv},
+    {"P1"sv, isSoundPnm},
+    {"P2"sv, isSoundPnm},
+    {"P3"sv, isSoundPnm},
+    {"P4"sv, isSoundPnm},
+    {"P5"sv, isSoundPnm},
+    {"P6"sv, isSoundPnm},
     {"II*\0"sv}, // TIFF
     {"MM\0*"sv},
     {"\x0a\x05\x01"sv, isSoundPcx},

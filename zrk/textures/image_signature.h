@@ -10,10 +10,10 @@ namespace zrk {
 ///
 /// | Format | What is checked beyond the signature |
 /// |---|---|
-/// | BMP, CUR, ICO, JPEG, PNM, TIFF, WEBP | nothing: a faulty file is an error, or an image |
+/// | BMP, CUR, ICO, JPEG, TIFF, WEBP | nothing: a faulty file is an error, or an image |
 /// | PNG | the chunks up to the image data |
 /// | LBM | the chunks up to the image data |
-/// | PCX | the sizes in the header |
+/// | PCX, PNM | the sizes in the header |
 /// | GIF | the blocks and codes of the first image, see `isSoundGif` |
 /// | XPM | the quoted lines, see `isSoundXpm` |
 /// | XCF, XV | refused: their decoders cannot be trusted with a faulty file |

@@ -46,6 +46,8 @@ const Image images[] = {
     {"BmpOf264Bits",
      "BM\0\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\1\0\0\0\1\0\0\0\1\0\x08\1"s + std::string(64, '\0')},
     {"GifOfFewerBytesThanPixels", changed(changed(gif, 33, '\x3f'), 35, '\x7f')},
+    {"Pnm", "P3 # text\n2 1\n255\n1 2 3 4 5 6\n", true},
+    {"PnmOfMissingNumbers", "P3\n8000 8000\n255\n1 2 3"},
     {"Jpeg", "\xff\xd8\xff"},
     {"Xv", "P7 332\n#END_OF_COMMENTS\n1 1 255\nx"},
     {"Xcf", "gimp xcf file\0"s},
