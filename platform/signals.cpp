@@ -11,10 +11,10 @@ namespace platform {
 
 namespace {
 
-// Whoever asks for the end, a host above all, expects it within a tenth of a second. A frame takes
-// a third of this where the hardware draws it; a frame of a software renderer or a file may take
-// longer than a tenth of a second, and the exit needs time too, to release what a driver holds.
-constexpr itimerspec gracePeriod{{0, 0}, {0, 30'000'000}};
+// Whoever asks for the end, a host above all, expects it within a tenth of a second. Where hardware
+// draws, this is enough for the rest of a frame at 60 Hz. Frames of a software renderer and files
+// may take any time, and the exit itself, to release 200 MB, up to 80 ms on a busy machine.
+constexpr itimerspec gracePeriod{{0, 0}, {0, 20'000'000}};
 
 constinit volatile std::sig_atomic_t endFlag = 0;
 constinit std::array<int, 2> endPipe = {-1, -1}; // reading end, writing end

@@ -3,7 +3,7 @@
 namespace platform {
 
 /// From here on SIGTERM, SIGINT and SIGHUP leave a request to end, which is never withdrawn. A
-/// process that has not ended by itself 30 ms after the first of them exits at once with status 0,
+/// process that has not ended by itself 20 ms after the first of them exits at once with status 0,
 /// whatever it is doing. SIGPIPE is ignored: when the reader of our output or the display goes
 /// away, the write fails, and the program can end in its usual way.
 void installEndSignals();
