@@ -19,14 +19,14 @@ class RegisterXscreensaver(unittest.TestCase):
         self.settings = Path(folder.name) / "settings"
 
     def start(self, action):
-        environment = os.environ | {"XSCREENSAVER_SETTINGS": str(self.settings)}
-        return subprocess.Popen([SCRIPT, action], env=environment, text=True,
-                                stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        return subprocess.Popen([SCRIPT, action], text=True, stdout=subprocess.PIPE,
+                                stderr=subprocess.PIPE,
+                                env=os.environ | {"XSCREENSAVER_SETTINGS": str(self.settings)})
 
     def run_script(self, action):
-        """Status and standard error."""
+        """Standard error, then the status."""
         process = self.start(action)
-        return process.wait(), process.communicate()[1]
+        return process.communicate()[1], process.returncode
 
     def test_runs_at_the_same_time_add_one_entry_at_the_end_of_the_list(self):
         self.settings.write_text(LIST % "")
@@ -46,17 +46,18 @@ class RegisterXscreensaver(unittest.TestCase):
         users = '  GL: "Quazo" /home/me/bin/quazo -s --window-id 1 \\n\\\n# "Quazo"\n'
         for entry in [ENTRY, '- GL:\t\t\t\t"Quazo"  quazo /s\t\t\t    \\n\\\n']:
             self.settings.write_text(LIST % (entry + users))
-            self.assertEqual(self.run_script("remove"), (0, ""))
+            self.assertEqual(self.run_script("remove"), ("", 0))
             self.assertEqual(self.settings.read_text(), LIST % users)
 
     def test_what_is_no_file_is_refused_with_a_line(self):
-        self.settings.mkdir()
-        self.assertRegex(str(self.run_script("add")), r"^\(1, '[^\n]*is not a file\\n'\)$")
-        self.settings.rmdir()
-        self.settings.symlink_to("nowhere")
-        self.assertRegex(str(self.run_script("add")), r"^\(1, '[^\n]*a link to nothing\\n'\)$")
-        self.settings.unlink()
-        self.assertEqual(self.run_script("add"), (0, ""))
+        for make, clear, said in [
+            (self.settings.mkdir, self.settings.rmdir, "is not a file"),
+            (lambda: self.settings.symlink_to("nowhere"), self.settings.unlink, "a link to nothing"),
+        ]:
+            make()
+            self.assertRegex(str(self.run_script("add")), rf"^\('[^\n]*{said}\\n', 1\)$")
+            clear()
+        self.assertEqual(self.run_script("add"), ("", 0))
         self.assertIn(ENTRY, self.settings.read_text())
 
 
