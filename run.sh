@@ -2,9 +2,11 @@
 # Builds the saver and runs it: on the display, or, without one, for a few seconds on a virtual
 # display of its own, leaving a picture.
 set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")"
+cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")"
+source scripts/checkout.sh
 source scripts/packages.sh
 
+check_checkout
 require_packages $build_packages $run_packages
 # Somebody who only wants to see the saver is not stopped by a newer compiler's warnings. A build
 # folder that is there keeps its setting: changing it would compile everything anew.
@@ -17,15 +19,27 @@ cmake "${configuration[@]}" -DBUILD_TESTING=OFF -DQUAZO_BENCH=OFF >/dev/null ||
     stop "cannot configure the build"
 cmake --build --preset release || stop "cannot build"
 
-if [ -n "${DISPLAY:-}" ]; then
-    echo "Escape, a click or a good move of the mouse ends the saver."
-    exec build/release/quazo /s
-fi
+scratch=$(mktemp -d)
+trap 'kill ${saver:-} ${server:-} 2>/dev/null || true; wait; rm -rf "$scratch"' EXIT
 
+# The saver's status, which is 0 also where it finds no display.
+show_on_display()
+{
+    echo "Escape, a click or a good move of the mouse ends the saver."
+    build/release/quazo /s 2>"$scratch/errors" &
+    saver=$!
+    local status=0
+    wait "$saver" || status=$?
+    saver=
+    cat "$scratch/errors" >&2
+    # It says so there only where it can show no box.
+    ! grep -q "^Window Creation Error" "$scratch/errors" || stop "cannot reach the display $DISPLAY"
+    exit "$status"
+}
+
+[ -z "${DISPLAY:-}" ] || show_on_display
 require_packages $virtual_display_packages
 picture=build/quazo.png
-scratch=$(mktemp -d)
-trap 'kill ${saver:-} ${server:-} 2>/dev/null; wait; rm -rf "$scratch"' EXIT
 
 # The server picks a free number, and writes it down once it is ready.
 Xvfb -displayfd 3 -screen 0 1280x720x24 -nolisten tcp 3>"$scratch/number" 2>"$scratch/server.log" &

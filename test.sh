@@ -3,7 +3,8 @@
 # With --quick only what takes seconds once the release is built: layers, format, and the tests that
 # need no display. A step that fails does not stop those that do not need it.
 set -uo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")" || exit
+cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")" || exit
+source scripts/checkout.sh
 source scripts/packages.sh
 
 case "${1:-}" in
@@ -11,6 +12,7 @@ case "${1:-}" in
 --quick) quick=1 ;;
 *) stop "usage: ./test.sh [--quick]" ;;
 esac
+check_checkout
 
 declare -A results=() # of the steps so far: passed, failed or skipped
 table=""

@@ -3,8 +3,10 @@
 # count. An argument is the number of repetitions, at least 2; 5 without one.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+source scripts/checkout.sh
 source scripts/packages.sh
 
+check_checkout
 require_packages $build_packages $run_packages $test_packages
 cmake --preset release -DBUILD_TESTING=ON -DQUAZO_BENCH=ON >/dev/null
 cmake --build --preset release >/dev/null

@@ -4,11 +4,13 @@
 # build/fuzz/fuzz/NAME_fuzz FILE tries it again.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+source scripts/checkout.sh
 source scripts/packages.sh
 seconds=${1:-10}
 name=${2:-}
 build=$PWD/build/fuzz # absolute, because some fuzzers change their directory
 
+check_checkout
 require_packages $build_packages $fuzz_packages
 cmake --preset fuzz >/dev/null
 cmake --build --preset fuzz

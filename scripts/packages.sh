@@ -1,7 +1,9 @@
 # Sourced by run.sh and test.sh: what the project needs of a Debian system, and how it gets there.
+# Either of two packages joined by a bar will do; the first is the one that is installed.
 
-build_packages="cmake ninja-build g++ pkg-config libsdl1.2-dev libsdl-image1.2-dev libfltk1.3-dev
-    libgl-dev libglu1-mesa-dev libx11-dev libxext-dev libxrandr-dev libpng-dev"
+build_packages="cmake ninja-build g++ pkg-config libsdl1.2-dev libsdl-image1.2-dev
+    libfltk1.3-dev|libfltk1.4-dev libgl-dev libglu1-mesa-dev libx11-dev libxext-dev libxrandr-dev
+    libpng-dev"
 run_packages="libgl1-mesa-dri"
 virtual_display_packages="xvfb scrot"
 fuzz_packages="clang libclang-rt-dev"
@@ -9,34 +11,57 @@ test_packages="python3 clang-format clang-tidy libgtest-dev libgmock-dev libbenc
     libxtst-dev libxfixes-dev xvfb openbox scrot procps xscreensaver xsecurelock dpkg-dev file lintian"
 
 # require_packages PACKAGE...: installs those that are missing, as root or with sudo; ends the
-# script with one line when that cannot be done.
+# script with one line when that cannot be done. On a system without Debian's packages it does
+# nothing: CMake names what is missing there.
 require_packages()
 {
+    command -v apt-get >/dev/null && command -v dpkg-query >/dev/null || return 0
     local package missing="" as_root=""
     for package in "$@"; do
-        [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] ||
-            missing="$missing $package"
+        any_installed ${package//|/ } || missing="$missing ${package%%|*}"
     done
     [ -n "$missing" ] || return 0
-    command -v apt-get >/dev/null || stop "this system has no apt-get: install by hand:$missing"
     if [ "$(id -u)" -ne 0 ]; then
         as_root=sudo
         command -v sudo >/dev/null || stop "run me as root or install sudo: missing:$missing"
     fi
-    echo "Installing:$missing"
-    local log
-    log=$(mktemp)
+    install_packages $missing
+}
+
+any_installed()
+{
+    local package
+    for package in "$@"; do
+        [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" != installed ] || return 0
+    done
+    return 1
+}
+
+# install_packages PACKAGE...: with `as_root` before each command.
+install_packages()
+{
     # One wait for a lock that another package run may hold, no questions, and nothing but what
     # is named.
-    if ! { $as_root apt-get update && $as_root env DEBIAN_FRONTEND=noninteractive apt-get \
-        -o DPkg::Lock::Timeout=120 install -y --no-install-recommends $missing; } >"$log" 2>&1; then
-        stop "cannot install:$missing (see $log)"
-    fi
+    local install=($as_root env DEBIAN_FRONTEND=noninteractive LC_ALL=C apt-get
+        -o DPkg::Lock::Timeout=120 install --no-install-recommends)
+    local log
+    log=$(mktemp)
+    echo "Installing: $*"
+    $as_root apt-get update >"$log" 2>&1 || give_up "$log" "$@"
+    "${install[@]}" --assume-no "$@" 2>/dev/null | # how much it is
+        grep -E '^(Need to get|After this operation)' || true
+    (while sleep 2 && kill -0 $$; do printf .; done) 2>/dev/null & # it goes on, or we are gone
+    local dots=$! status=0
+    "${install[@]}" -y "$@" >"$log" 2>&1 || status=$?
+    kill "$dots"
+    wait "$dots" 2>/dev/null || true
+    echo
+    [ "$status" -eq 0 ] || give_up "$log" "$@"
     rm -f "$log"
 }
 
-stop()
+# give_up LOG PACKAGE...
+give_up()
 {
-    echo "$(basename "$0"): $*" >&2
-    exit 1
+    stop "cannot install ${*:2}: $(tail -n 1 "$1") (all of it: $1)"
 }
