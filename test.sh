@@ -74,7 +74,8 @@ build_package()
     local log=build/package.log
     cpack --config build/release/CPackConfig.cmake -B build/package >"$log" 2>&1 ||
         { cat "$log"; return 1; }
-    lintian --allow-root --fail-on error build/package/*.deb
+    lintian --allow-root --display-info --pedantic --fail-on error,warning,info,pedantic \
+        build/package/*.deb
 }
 
 run_clang_tidy()

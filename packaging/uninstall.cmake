@@ -1,0 +1,22 @@
+# Removes what `cmake --install` has put in place, as its MANIFEST lists it, and the folders of ours
+# that are empty then.
+
+if(NOT EXISTS "${MANIFEST}")
+  message(FATAL_ERROR "Nothing is installed from this build: there is no ${MANIFEST}")
+endif()
+file(STRINGS "${MANIFEST}" files ENCODING UTF-8)
+foreach(file IN LISTS files)
+  set(file "$ENV{DESTDIR}${file}")
+  message(STATUS "Removing ${file}")
+  file(REMOVE "${file}")
+  cmake_path(GET file PARENT_PATH folder)
+  while(folder MATCHES "/quazo(/|$)" AND IS_DIRECTORY "${folder}")
+    file(GLOB left "${folder}/*" "${folder}/.*")
+    if(left)
+      break()
+    endif()
+    file(REMOVE_RECURSE "${folder}")
+    cmake_path(GET folder PARENT_PATH folder)
+  endwhile()
+endforeach()
+file(REMOVE "${MANIFEST}")
