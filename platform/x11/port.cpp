@@ -1,17 +1,15 @@
 #include "platform/desktop.h"
-#include "platform/frame_clock.h"
 #include "platform/x11/client_size.h"
 #include "platform/x11/connection_watch.h"
 #include "platform/x11/contexts.h"
 #include "platform/x11/desktop_area.h"
 #include "platform/x11/display.h"
 #include "platform/x11/events.h"
-#include "platform/x11/frame_pace.h"
 #include "platform/x11/host_window.h"
 #include "platform/x11/message_dialog.h"
 #include "platform/x11/pointer.h"
+#include "platform/x11/presentation.h"
 #include "platform/x11/running_flag.h"
-#include "platform/x11/swap_interval.h"
 #include "platform/x11/window_manager.h"
 #include "platform/x11/window_table.h"
 
@@ -26,8 +24,6 @@
 namespace platform::x11 {
 
 namespace {
-
-constinit FrameClock frameClock;
 
 // In a host's window no input is selected: it propagates to the host.
 constexpr long hostedEvents = StructureNotifyMask;
@@ -60,15 +56,6 @@ WindowRecord* findDrawable(desktop::NativeWindow window)
 {
     WindowRecord* const record = findRecord(window);
     return record != nullptr && record->format.config != nullptr ? record : nullptr;
-}
-
-void setPace(Display* display, ::Window window)
-{
-    const Nanoseconds period = framePeriod(display, desktopArea(display));
-    // If swaps wait for the refresh, our clock runs slightly fast: were it the slower of the two, a
-    // frame would miss its refresh from time to time.
-    const Nanoseconds lead = setSwapInterval(display, window) ? period / 1000 : 0;
-    frameClock.setPeriod(period - lead);
 }
 
 // Does something to a window if it is mapped, else once it is.
@@ -262,7 +249,7 @@ bool makeCurrent(NativeWindow window, NativeContext context)
     const WindowRecord* const record = findRecord(window);
     if (record == nullptr || !selectContext(context, *record))
         return false;
-    setPace(connection(), window);
+    setPace(connection(), window, desktopArea(connection()));
     return true;
 }
 
@@ -278,9 +265,7 @@ bool swapBuffers(NativeWindow window)
         return false;
     if (record->requests.show && !record->shown)
         putOnScreen(connection(), *record);
-    presentBackBuffer(*record);
-    frameClock.awaitNextFrame();
-    glXSwapBuffers(connection(), window);
+    presentFrame(connection(), *record);
     return true;
 }
 

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/x11/desktop_area.h"
+#include "platform/x11/window_table.h"
+
+/// A frame's way to the screen.
+namespace platform::x11 {
+
+/// Sets the pace of the frames by the monitor that shows the middle of this desktop. A context has
+/// to be current on the window.
+void setPace(Display* display, ::Window window, const DesktopArea& desktop);
+
+/// Puts what was drawn on a window that is mapped, when the next frame is due.
+void presentFrame(Display* display, const WindowRecord& record);
+
+} // namespace platform::x11
