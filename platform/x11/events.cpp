@@ -135,6 +135,12 @@ bool onConfigure(WindowRecord& record, const XEvent& event, Message& /*result*/)
     return false;
 }
 
+bool onVisibility(WindowRecord& record, const XEvent& event, Message& /*result*/)
+{
+    record.obscured = event.xvisibility.state == VisibilityFullyObscured;
+    return false;
+}
+
 bool onClientMessage(WindowRecord& record, const XEvent& event, Message& result)
 {
     if (answerPing(event) || protocolOf(event) != atom(AtomName::wmDeleteWindow))
@@ -166,6 +172,7 @@ constexpr Translation translations[] = {
     {FocusOut, onFocus},
     {PropertyNotify, onProperty},
     {ConfigureNotify, onConfigure},
+    {VisibilityNotify, onVisibility},
     {ClientMessage, onClientMessage},
     {DestroyNotify, onDestroy},
 };

@@ -26,9 +26,9 @@ namespace platform::x11 {
 namespace {
 
 // In a host's window no input is selected: it propagates to the host.
-constexpr long hostedEvents = StructureNotifyMask;
-constexpr long ownEvents = StructureNotifyMask | PropertyChangeMask | FocusChangeMask |
-                           KeyPressMask | KeyReleaseMask | ButtonPressMask | ButtonReleaseMask |
+constexpr long hostedEvents = StructureNotifyMask | VisibilityChangeMask;
+constexpr long ownEvents = hostedEvents | PropertyChangeMask | FocusChangeMask | KeyPressMask |
+                           KeyReleaseMask | ButtonPressMask | ButtonReleaseMask |
                            PointerMotionMask | EnterWindowMask;
 
 Display* connected()

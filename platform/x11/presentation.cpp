@@ -4,6 +4,7 @@
 #include "platform/x11/contexts.h"
 #include "platform/x11/frame_pace.h"
 #include "platform/x11/swap_interval.h"
+#include "platform/x11/visibility.h"
 
 namespace platform::x11 {
 
@@ -22,11 +23,17 @@ void setPace(Display* display, ::Window window, const DesktopArea& desktop)
     frameClock.setPeriod(period - lead);
 }
 
-void presentFrame(Display* display, const WindowRecord& record)
+// Events that end a rest may come in any number, so the clock limits the pace then too.
+void presentFrame(Display* display, WindowRecord& record)
 {
-    presentBackBuffer(record);
+    const bool seen = isSeen(display, record);
+    if (seen)
+        presentBackBuffer(record);
+    else
+        rest(display);
     frameClock.awaitNextFrame();
-    glXSwapBuffers(display, record.id);
+    if (seen)
+        glXSwapBuffers(display, record.id);
 }
 
 } // namespace platform::x11

@@ -10,7 +10,8 @@ namespace platform::x11 {
 /// to be current on the window.
 void setPace(Display* display, ::Window window, const DesktopArea& desktop);
 
-/// Puts what was drawn on a window that is mapped, when the next frame is due.
-void presentFrame(Display* display, const WindowRecord& record);
+/// Puts what was drawn on a window that is mapped, when the next frame is due. Where nobody can see
+/// the window it rests instead, a quarter of a second or until something happens.
+void presentFrame(Display* display, WindowRecord& record);
 
 } // namespace platform::x11

@@ -1,6 +1,29 @@
 #include "tests/platform/x11/desktop_fixture.h"
 
+#include <GL/gl.h>
+
+#include <chrono>
+#include <functional>
+
 using namespace platform::desktop;
+
+namespace {
+
+unsigned short monitorPower = 0; // DPMSModeOn
+
+} // namespace
+
+// Linked in place of the library's: virtual servers do not have the extension.
+extern "C" int DPMSQueryExtension(Display* /*display*/, int* /*event*/, int* /*error*/)
+{
+    return True;
+}
+
+extern "C" Status DPMSInfo(Display* /*display*/, unsigned short* level, unsigned char* /*enabled*/)
+{
+    *level = monitorPower;
+    return True;
+}
 
 using Port = DesktopFixture;
 
@@ -21,4 +44,43 @@ TEST_F(Port, CoversTheScreenOfAManagerWithItsFirstFrameAndTellsWhenItIsMinimised
     XMapWindow(server, window);
     XSync(server, False);
     EXPECT_TRUE(User::waitUntil([] { return next(WM_ACTIVATE).wParam == WA_ACTIVE; }));
+}
+
+TEST_F(Port, RestsWhileNobodySeesTheWindowAndShowsTheNextFrameThatSomebodySees)
+{
+    const NativeWindow window = openAndShow();
+    XSetWindowAttributes cover{};
+    cover.override_redirect = True;
+    const Window curtain =
+        XCreateWindow(server, DefaultRootWindow(server), 0, 0, 1024, 768, 0, CopyFromParent,
+                      InputOutput, nullptr, CWOverrideRedirect, &cover);
+    const struct {
+        const char* name;
+        std::function<void()> hide, show;
+    } cases[] = {
+        {"covered", [&] { XMapRaised(server, curtain); }, [&] { XUnmapWindow(server, curtain); }},
+        {"unmapped", [&] { XUnmapWindow(server, window); }, [&] { XMapWindow(server, window); }},
+        {"monitor off", [] { monitorPower = 3; }, [] { monitorPower = 0; }},
+    };
+    const auto swap = [&] { // after all messages, as the program does
+        for (Message message; nextMessage(message);)
+            ;
+        EXPECT_TRUE(swapBuffers(window));
+    };
+    const auto rests = [&] {
+        const auto start = std::chrono::steady_clock::now();
+        swap();
+        return std::chrono::steady_clock::now() - start >= std::chrono::milliseconds(240);
+    };
+    glClearColor(1.0f, 1.0f, 1.0f, 0.0f);
+    glClear(GL_COLOR_BUFFER_BIT);
+    for (const auto& [name, hide, show] : cases) {
+        hide();
+        XSync(server, False);
+        EXPECT_TRUE(User::waitUntil(rests)) << name;
+        show();
+        XSync(server, False);
+        swap();
+        EXPECT_EQ(user.look().brightness(400, 300), 255) << name;
+    }
 }
