@@ -54,7 +54,7 @@ RRMode modeOf(Display* display, const DesktopArea& desktop, XRRScreenResources& 
 //     hTotal * vTotal / dotClock
 //
 // seconds. With double scan each line is sent twice.
-Nanoseconds framePeriod(const XRRModeInfo& mode)
+Nanoseconds refreshPeriod(const XRRModeInfo& mode)
 {
     auto dots = static_cast<Nanoseconds>(mode.hTotal) * mode.vTotal;
     if ((mode.modeFlags & RR_DoubleScan) != 0)
@@ -67,7 +67,7 @@ Nanoseconds framePeriod(const XRRModeInfo& mode)
     return period < shortestPeriod || period > longestPeriod ? usualPeriod : period;
 }
 
-Nanoseconds framePeriod(Display* display, const DesktopArea& desktop)
+Nanoseconds refreshPeriod(Display* display, const DesktopArea& desktop)
 {
     const Resources resources = monitorResources(display);
     if (!resources)
@@ -76,8 +76,22 @@ Nanoseconds framePeriod(Display* display, const DesktopArea& desktop)
     for (const XRRModeInfo& mode :
          std::span(resources->modes, static_cast<std::size_t>(resources->nmode)))
         if (mode.id == current)
-            return framePeriod(mode);
+            return refreshPeriod(mode);
     return usualPeriod;
+}
+
+// Nearest as a ratio, since a speed is one: n is better than n + 1 if the frame's period n * period
+// is less far below the usual one than (n + 1) * period is above it,
+//
+//     usual / (n * period) <= (n + 1) * period / usual
+//
+// By difference 72 and 48, both from 144 Hz, would be equally near, and chance would choose.
+int refreshesPerFrame(Nanoseconds period)
+{
+    int count = 1;
+    while (count * (count + 1) * period * period < usualPeriod * usualPeriod)
+        ++count;
+    return count;
 }
 
 } // namespace platform::x11

@@ -9,9 +9,14 @@ namespace platform::x11 {
 
 /// The refresh period of a monitor in this mode; that of 60 Hz where the mode does not tell it, or
 /// where it is out of the range of real monitors, as on virtual ones.
-[[nodiscard]] Nanoseconds framePeriod(const XRRModeInfo& mode);
+[[nodiscard]] Nanoseconds refreshPeriod(const XRRModeInfo& mode);
 
 /// The same for the monitor that shows the middle of this area; asks the server.
-[[nodiscard]] Nanoseconds framePeriod(Display* display, const DesktopArea& desktop);
+[[nodiscard]] Nanoseconds refreshPeriod(Display* display, const DesktopArea& desktop);
+
+/// For how many refreshes of a monitor with this period each frame is shown, so that the animation,
+/// which advances by the frame, comes nearest to its speed at 60 frames a second. A slower monitor
+/// shows each for one.
+[[nodiscard]] int refreshesPerFrame(Nanoseconds period);
 
 } // namespace platform::x11

@@ -16,10 +16,12 @@ constinit FrameClock frameClock;
 
 void setPace(Display* display, ::Window window, const DesktopArea& desktop)
 {
-    const Nanoseconds period = framePeriod(display, desktop);
+    const Nanoseconds refresh = refreshPeriod(display, desktop);
+    const int refreshes = refreshesPerFrame(refresh);
+    const Nanoseconds period = refreshes * refresh;
     // If swaps wait for the refresh, our clock runs slightly fast: were it the slower of the two, a
     // frame would miss its refresh from time to time.
-    const Nanoseconds lead = setSwapInterval(display, window) ? period / 1000 : 0;
+    const Nanoseconds lead = setSwapInterval(display, window, refreshes) ? period / 1000 : 0;
     frameClock.setPeriod(period - lead);
 }
 

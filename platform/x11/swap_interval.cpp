@@ -24,9 +24,8 @@ Procedure glxProcedure(Display* display, const std::string& extension, const cha
 } // namespace
 
 // Three extensions with the same purpose; a driver has some of them or none.
-bool setSwapInterval(Display* display, ::Window window)
+bool setSwapInterval(Display* display, ::Window window, int refreshes)
 {
-    constexpr int refreshes = 1;
     if (const auto set = glxProcedure<PFNGLXSWAPINTERVALEXTPROC>(display, "GLX_EXT_swap_control",
                                                                  "glXSwapIntervalEXT")) {
         set(display, window, refreshes);
@@ -34,7 +33,7 @@ bool setSwapInterval(Display* display, ::Window window)
     }
     if (const auto set = glxProcedure<PFNGLXSWAPINTERVALMESAPROC>(display, "GLX_MESA_swap_control",
                                                                   "glXSwapIntervalMESA"))
-        return set(refreshes) == 0;
+        return set(static_cast<unsigned int>(refreshes)) == 0;
     if (const auto set = glxProcedure<PFNGLXSWAPINTERVALSGIPROC>(display, "GLX_SGI_swap_control",
                                                                  "glXSwapIntervalSGI"))
         return set(refreshes) == 0;

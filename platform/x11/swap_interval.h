@@ -4,8 +4,8 @@
 
 namespace platform::x11 {
 
-/// Sets the swap interval of the current window to 1: a swap waits for the monitor's next refresh
-/// (vsync). False where the driver does not support swap intervals.
-bool setSwapInterval(Display* display, ::Window window);
+/// Sets the swap interval of the current window: a swap waits (vsync) until the frame before was
+/// shown for this many of the monitor's refreshes. False where the driver does not support that.
+bool setSwapInterval(Display* display, ::Window window, int refreshes);
 
 } // namespace platform::x11
