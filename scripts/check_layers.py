@@ -16,7 +16,8 @@ ANYTHING = None
 # Each room: its name, its files, and the rooms that it may include besides itself. The first match
 # counts. A port is a folder under platform/, and includes of platform/ only the ground.
 ROOMS = [
-    ("x11 ground", r"platform/x11/(connection_watch|display|glx_config|keys|monitor_power|window_manager)\.", [PORT_GROUND]),
+    ("x11 ground", r"platform/x11/(connection_watch|display|glx_config|glx_extension|keys"
+     r"|monitor_power|software_renderer|window_manager)\.", [PORT_GROUND]),
     ("x11 top", r"platform/x11/(events|host_window|message_dialog|port)\.",
      ["x11 records"] + X11_GROUND),
     ("x11 records", r"platform/x11/", X11_GROUND),

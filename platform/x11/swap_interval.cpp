@@ -1,27 +1,10 @@
 #include "platform/x11/swap_interval.h"
 
-#include <GL/glx.h>
+#include "platform/x11/glx_extension.h"
+
 #include <GL/glxext.h>
 
-#include <string>
-
 namespace platform::x11 {
-
-namespace {
-
-// The entry point of a GLX extension; null where this screen does not have the extension.
-template <typename Procedure>
-Procedure glxProcedure(Display* display, const std::string& extension, const char* name)
-{
-    const char* const known = glXQueryExtensionsString(display, DefaultScreen(display));
-    const std::string offered = ' ' + std::string(known == nullptr ? "" : known) + ' ';
-    if (offered.find(' ' + extension + ' ') == std::string::npos)
-        return nullptr;
-    return reinterpret_cast<Procedure>(
-        glXGetProcAddressARB(reinterpret_cast<const GLubyte*>(name)));
-}
-
-} // namespace
 
 // Three extensions with the same purpose; a driver has some of them or none.
 bool setSwapInterval(Display* display, ::Window window, int refreshes)
