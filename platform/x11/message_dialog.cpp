@@ -64,6 +64,7 @@ private:
             const Atom above = atom(AtomName::netWmStateAbove);
             XChangeProperty(fl_display, fl_xid(this), atom(AtomName::netWmState), XA_ATOM, 32,
                             PropModeReplace, reinterpret_cast<const uchar*>(&above), 1);
+            keepOpaque(fl_display, fl_xid(this));
             if (const ::Window saver = shownWindow();
                 saver != 0) // stays above it when a click raises it
                 XSetTransientForHint(fl_display, fl_xid(this), saver);

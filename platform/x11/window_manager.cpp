@@ -93,6 +93,12 @@ bool managerRuns(Display* display)
     return !proof.values().empty() && proof.values().front() == manager;
 }
 
+void keepOpaque(Display* display, ::Window window)
+{
+    constexpr unsigned long opaque = 0xFFFFFFFF;
+    writeProperty<1>(display, window, AtomName::netWmWindowOpacity, XA_CARDINAL, {opaque});
+}
+
 void describeWindow(Display* display, ::Window window, const char* title)
 {
     writeStandardHints(display, window, title);
@@ -112,8 +118,10 @@ void describeWindow(Display* display, ::Window window, const char* title)
     // and a delay.
     writeProperty<1>(display, window, AtomName::netWmBypassCompositor, XA_CARDINAL, {1});
     // Set before the window is mapped, so that a manager gives it its final size at once.
-    writeProperty<2>(display, window, AtomName::netWmState, XA_ATOM,
-                     {atom(AtomName::netWmStateAbove), atom(AtomName::netWmStateFullscreen)});
+    writeProperty<4>(display, window, AtomName::netWmState, XA_ATOM,
+                     {atom(AtomName::netWmStateAbove), atom(AtomName::netWmStateFullscreen),
+                      atom(AtomName::netWmStateSkipTaskbar), atom(AtomName::netWmStateSkipPager)});
+    keepOpaque(display, window);
 }
 
 void requestCover(Display* display, ::Window window)

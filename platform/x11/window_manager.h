@@ -9,8 +9,13 @@ namespace platform::x11 {
 /// Whether a window manager that knows the freedesktop.org hints runs.
 [[nodiscard]] bool managerRuns(Display* display);
 
+/// Asks compositing managers to show the window opaque, whatever they do with inactive windows. To
+/// be called before the window is mapped.
+void keepOpaque(Display* display, ::Window window);
+
 /// Sets the properties that a manager reads when a window is mapped: name, class, protocols,
-/// position, no decorations, and the request to cover the screen above all other windows.
+/// position, opacity, no decorations, no entry in taskbars and pagers, and the request to cover the
+/// screen above all other windows.
 void describeWindow(Display* display, ::Window window, const char* title);
 
 /// Requests for a mapped window that it covers the screen above all others.
