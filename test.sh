@@ -39,6 +39,12 @@ check_layers()
     scripts/check_layers.py
 }
 
+check_documents()
+{
+    scripts/check_documents.py
+    mandoc -T lint -W warning packaging/quazo.6.in
+}
+
 # Each version formats a little differently: only Debian 12's decides.
 check_format()
 {
@@ -88,6 +94,7 @@ run_clang_tidy()
 step "packages" "" require_packages $build_packages $run_packages $test_packages $fuzz_packages
 step "layers" "" check_layers
 step "format" "" check_format
+step "documents" "packages" check_documents
 step "release build" "packages" build release
 if [ -n "$quick" ]; then
     step "release tests" "release build" run_tests release -LE display
