@@ -8,7 +8,8 @@ run_packages="libgl1-mesa-dri"
 virtual_display_packages="xvfb scrot"
 fuzz_packages="clang libclang-rt-dev"
 test_packages="python3 clang-format clang-tidy libgtest-dev libgmock-dev libbenchmark-dev
-    libxtst-dev libxfixes-dev xvfb openbox scrot procps xscreensaver xsecurelock dpkg-dev file lintian"
+    libxtst-dev libxfixes-dev xvfb openbox scrot procps xscreensaver xsecurelock dpkg-dev file lintian
+    mandoc"
 
 # require_packages PACKAGE...: installs those that are missing, as root or with sudo; ends the
 # script with one line when that cannot be done. On a system without Debian's packages it does

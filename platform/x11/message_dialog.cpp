@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <utility>
 
 namespace platform::x11 {
@@ -216,9 +217,15 @@ bool openToolkit()
     if (fl_display != nullptr)
         return true;
     Display* const display = XOpenDisplay(nullptr);
-    if (display != nullptr)
-        fl_open_display(display);
-    return display != nullptr;
+    if (display == nullptr)
+        return false;
+#if FL_API_VERSION >= 10400
+    setenv("FLTK_BACKEND", "x11", 1); // it would prefer Wayland, where the box has no X window
+    fl_x11_use_display(display);
+#else
+    fl_open_display(display);
+#endif
+    return true;
 }
 
 } // namespace
