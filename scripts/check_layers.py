@@ -17,7 +17,7 @@ ANYTHING = None
 # counts. A port is a folder under platform/, and includes of platform/ only the ground.
 ROOMS = [
     ("x11 ground", r"platform/x11/(connection_watch|display|glx_config|glx_extension|keys"
-     r"|monitor_power|software_renderer|window_manager)\.", [PORT_GROUND]),
+     r"|monitor_power|software_renderer|window_manager|xwayland)\.", [PORT_GROUND]),
     ("x11 top", r"platform/x11/(events|host_window|message_dialog|port)\.",
      ["x11 records"] + X11_GROUND),
     ("x11 records", r"platform/x11/", X11_GROUND),

@@ -6,6 +6,7 @@
 #include "platform/x11/keys.h"
 #include "platform/x11/window_manager.h"
 #include "platform/x11/window_table.h"
+#include "platform/x11/xwayland.h"
 
 #include <X11/Xutil.h>
 
@@ -89,9 +90,13 @@ bool onMotion(WindowRecord& record, const XEvent& event, Message& result)
     return true;
 }
 
-// The server also sends this when the window is mapped under a pointer at rest.
+// The server also sends this when the window is mapped under a pointer at rest. Not so Xwayland: it
+// enters at the place where the pointer last was over an X window, and then moves to the true one,
+// a way that nobody has moved the mouse.
 bool onEnter(WindowRecord& record, const XEvent& event, Message& result)
 {
+    if (isXwayland(event.xany.display))
+        return false;
     result = pointerMessage(record, WM_MOUSEMOVE, event.xcrossing);
     return true;
 }

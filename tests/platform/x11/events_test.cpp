@@ -3,7 +3,25 @@
 #include <X11/keysym.h>
 #include <X11/XKBlib.h>
 
+#include <string_view>
+
 using namespace platform::desktop;
+
+namespace {
+
+bool serverIsXwayland = false;
+
+} // namespace
+
+// A virtual server cannot be Xwayland, which needs a compositor, so it only claims to be.
+extern "C" {
+
+Bool __wrap_XQueryExtension(Display*, const char* name, int*, int*, int*)
+{
+    return serverIsXwayland && std::string_view(name) == "XWAYLAND" ? True : False;
+}
+
+} // extern "C"
 
 using Events = DesktopFixture;
 
@@ -34,4 +52,17 @@ TEST_F(Events, TellNoActivationByAGrabOrAFocusThatIsAnothers)
     user.press(XK_b); // goes to the window under the pointer
     EXPECT_EQ(next(WM_ACTIVATE, WM_KEYDOWN).message, WM_ACTIVATE); // the focus is lost
     EXPECT_EQ(next(WM_ACTIVATE, WM_KEYDOWN).message, WM_KEYDOWN);
+}
+
+TEST_F(Events, StartTheWayOfThePointerWhereTheWindowAppearsUnderItButOnXwaylandWithItsFirstMove)
+{
+    user.moveTo(100, 100);
+    for (const bool xwayland : {true, false}) {
+        serverIsXwayland = xwayland;
+        const NativeWindow window = openAndShow();
+        user.moveTo(300, 300);
+        EXPECT_EQ(next(WM_MOUSEMOVE).pointer.x, xwayland ? 300 : 100);
+        EXPECT_TRUE(destroyWindow(window));
+        user.moveTo(100, 100);
+    }
 }
