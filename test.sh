@@ -42,7 +42,7 @@ check_layers()
 check_documents()
 {
     scripts/check_documents.py
-    mandoc -T lint -W warning packaging/quazo.6.in
+    mandoc -T lint -W warning packaging/*.6.in
 }
 
 # Each version formats a little differently: only Debian 12's decides.
