@@ -38,6 +38,16 @@ if(NOT QUAZO_SANITIZE)
   endif()
 endif()
 
+if(WIN32)
+  # The system's header leaves out what nobody here uses, and min and max. _GDI32_ gives the OpenGL
+  # functions their plain names, so that a test can stand its recorder in for them.
+  target_compile_definitions(quazo_compiler INTERFACE
+    WIN32_LEAN_AND_MEAN NOMINMAX _GDI32_ _WIN32_WINNT=0x0A00)
+  # The stack protector's functions are in a library of their own.
+  target_link_options(quazo_compiler INTERFACE
+    -static -fstack-protector-strong LINKER:--tsaware $<$<CONFIG:Release>:-s>)
+endif()
+
 if(QUAZO_SANITIZE)
   target_compile_options(quazo_compiler INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/win32_names.h"
+#include "platform/win32.h"
 
 #include <bitset>
 #include <optional>

@@ -1,16 +1,13 @@
 #pragma once
 
-// What the shell includes: the system's own header on Windows, ours elsewhere.
+// What the shell includes: the system's own header on Windows, less the few calls that are ours
+// there, and our own header elsewhere.
 #ifdef _WIN32
-#ifndef WIN32_LEAN_AND_MEAN
-#define WIN32_LEAN_AND_MEAN
-#endif
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
 #include <windows.h>
 #undef far
 #undef near
+
+#include "platform/windows/shell_calls.h"
 #else
 #include "platform/win32_names.h"
 #endif

@@ -21,8 +21,11 @@ ROOMS = [
     ("x11 top", r"platform/x11/(events|host_window|message_dialog|port)\.",
      ["x11 records"] + X11_GROUND),
     ("x11 records", r"platform/x11/", X11_GROUND),
-    (PORT_GROUND, r"platform/(back_buffer|desktop|frame_clock|gl_entry_points|win32(_names)?)\.",
-     []),
+    ("windows calls", r"platform/windows/shell_calls\.", []),
+    ("windows", r"platform/windows/", [PORT_GROUND]),
+    (PORT_GROUND,
+     r"platform/(back_buffer|desktop|frame_clock|gl_entry_points|held_releases|win32(_names)?)\.",
+     ["windows calls"]),
     ("platform", r"platform/[^/]+$", [PORT_GROUND]),
     ("zrk textures", r"zrk/textures/", ZRK_BASE),
     ("zrk shaders", r"zrk/shaders/", ZRK_TEXTURES),
@@ -39,6 +42,7 @@ ROOMS = [
 # Headers of other makers that have one way in.
 GATES = {
     r"GL/(gl|glu|glext)\.h": r"zrk/gl\.h|platform/gl_entry_points\.h|platform/x11/|tests/|bench/",
+    r"platform/windows/shell_calls\.h": r"platform/win32\.h",
     r"X11/|GL/glx|FL/": r"platform/x11/|tests/|bench/",
     r"windows\.h": r"zrk/gl\.h|platform/win32\.h",
 }
