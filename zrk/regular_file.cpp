@@ -6,7 +6,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 #else
+#include "zrk/cexception.h"
+
 #include <filesystem>
+#include <new>
 #endif
 
 namespace zrk {
@@ -33,12 +36,14 @@ OwnedFile openRegularFile(const char* fileName, std::uint64_t mostBytes)
 #else
 
 OwnedFile openRegularFile(const char* fileName, std::uint64_t mostBytes)
-{
+try {
     std::error_code error;
     if (fileName == nullptr || !std::filesystem::is_regular_file(fileName, error) ||
         std::filesystem::file_size(fileName, error) > mostBytes || error)
         return nullptr;
     return OwnedFile(std::fopen(fileName, "rb"));
+} catch (const std::bad_alloc&) { // a path takes memory
+    throw Cexception();
 }
 
 #endif

@@ -1,20 +1,23 @@
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <stdexcept>
+#include <random>
 #include <string>
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
 
 /// A new directory that is the current one for its lifetime; removed with all that is in it.
 class TemporaryDirectory {
 public:
     TemporaryDirectory()
     {
-        std::string name = (std::filesystem::temp_directory_path() / "quazo-XXXXXX").string();
-        if (mkdtemp(name.data()) == nullptr)
-            throw std::runtime_error("no temporary directory: " + name);
-        path = name;
+        std::random_device random;
+        do
+            path = std::filesystem::temp_directory_path() / ("quazo-" + std::to_string(random()));
+        while (!std::filesystem::create_directory(path)); // false: it is somebody else's
         std::filesystem::current_path(path);
     }
 
@@ -32,6 +35,17 @@ public:
     {
         std::filesystem::create_directories((path / name).parent_path());
         std::ofstream(path / name, std::ios::binary) << contents;
+    }
+
+    /// Makes a FIFO, which nobody writes to. False when that fails; a system without FIFOs is left
+    /// without the file.
+    [[nodiscard]] bool makeFifo([[maybe_unused]] const char* name) const
+    {
+#ifdef _WIN32
+        return true;
+#else
+        return mkfifo((path / name).c_str(), 0600) == 0;
+#endif
     }
 
     std::filesystem::path path;

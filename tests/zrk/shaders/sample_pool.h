@@ -12,13 +12,12 @@
 template <typename Print>
 std::string output(Print print)
 {
-    char* data = nullptr;
-    std::size_t size = 0;
-    std::FILE* stream = open_memstream(&data, &size);
+    std::FILE* stream = std::tmpfile();
     print(stream);
+    std::string text(static_cast<std::size_t>(std::ftell(stream)), '\0');
+    std::rewind(stream);
+    text.resize(std::fread(text.data(), 1, text.size(), stream));
     std::fclose(stream);
-    std::string text(data, size);
-    std::free(data);
     return text;
 }
 
