@@ -49,13 +49,16 @@ void createBackBuffer(HDC deviceContext)
 // has let pass.
 void setPace(HDC deviceContext)
 {
-    using SetInterval = BOOL(WINAPI*)(int);
-    if (const auto setInterval = wglProcedure<SetInterval>("wglSwapIntervalEXT"))
-        setInterval(1);
+    constexpr Nanoseconds second = 1'000'000'000;
     constexpr int unknownRate = 1; // or 0: the hardware's default
     constexpr int usualRate = 60;
-    const int rate = GetDeviceCaps(deviceContext, VREFRESH);
-    frameClock.setPeriod(1'000'000'000 / ((rate > unknownRate ? rate : usualRate) + 1));
+    const int told = GetDeviceCaps(deviceContext, VREFRESH);
+    const int rate = told > unknownRate ? told : usualRate;
+    const int refreshes = refreshesPerFrame(second / rate);
+    using SetInterval = BOOL(WINAPI*)(int);
+    if (const auto setInterval = wglProcedure<SetInterval>("wglSwapIntervalEXT"))
+        setInterval(refreshes);
+    frameClock.setPeriod(refreshes * second / (rate + 1));
 }
 
 } // namespace

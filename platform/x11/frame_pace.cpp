@@ -8,7 +8,6 @@ namespace platform::x11 {
 namespace {
 
 constexpr Nanoseconds second = 1'000'000'000;
-constexpr Nanoseconds usualPeriod = second / 60;
 constexpr Nanoseconds shortestPeriod = second / 1000, longestPeriod = second / 20;
 
 using Resources = std::unique_ptr<XRRScreenResources, decltype(&XRRFreeScreenResources)>;
@@ -62,36 +61,22 @@ Nanoseconds refreshPeriod(const XRRModeInfo& mode)
     if ((mode.modeFlags & RR_Interlace) != 0)
         dots /= 2; // each field is shown as a frame
     if (mode.dotClock == 0)
-        return usualPeriod;
+        return usualFramePeriod;
     const Nanoseconds period = dots * second / static_cast<Nanoseconds>(mode.dotClock);
-    return period < shortestPeriod || period > longestPeriod ? usualPeriod : period;
+    return period < shortestPeriod || period > longestPeriod ? usualFramePeriod : period;
 }
 
 Nanoseconds refreshPeriod(Display* display, const DesktopArea& desktop)
 {
     const Resources resources = monitorResources(display);
     if (!resources)
-        return usualPeriod;
+        return usualFramePeriod;
     const RRMode current = modeOf(display, desktop, *resources);
     for (const XRRModeInfo& mode :
          std::span(resources->modes, static_cast<std::size_t>(resources->nmode)))
         if (mode.id == current)
             return refreshPeriod(mode);
-    return usualPeriod;
-}
-
-// Nearest as a ratio, since a speed is one: n is better than n + 1 if the frame's period n * period
-// is less far below the usual one than (n + 1) * period is above it,
-//
-//     usual / (n * period) <= (n + 1) * period / usual
-//
-// By difference 72 and 48, both from 144 Hz, would be equally near, and chance would choose.
-int refreshesPerFrame(Nanoseconds period)
-{
-    int count = 1;
-    while (count * (count + 1) * period * period < usualPeriod * usualPeriod)
-        ++count;
-    return count;
+    return usualFramePeriod;
 }
 
 } // namespace platform::x11

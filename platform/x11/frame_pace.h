@@ -14,9 +14,4 @@ namespace platform::x11 {
 /// The same for the monitor that shows the middle of this area; asks the server.
 [[nodiscard]] Nanoseconds refreshPeriod(Display* display, const DesktopArea& desktop);
 
-/// For how many refreshes of a monitor with this period each frame is shown, so that the animation,
-/// which advances by the frame, comes nearest to its speed at 60 frames a second. A slower monitor
-/// shows each for one.
-[[nodiscard]] int refreshesPerFrame(Nanoseconds period);
-
 } // namespace platform::x11

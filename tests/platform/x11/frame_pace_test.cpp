@@ -24,16 +24,3 @@ TEST(FramePace, HasThePeriodOfTheMode)
     EXPECT_EQ(period(148'500'000, 0, 0), usual);
     EXPECT_EQ(period(2'475'000, 2200, 1125), usual);
 }
-
-TEST(FramePace, IsTheDivisorOfTheRefreshRateNearestTo60)
-{
-    constexpr struct {
-        double refreshRate, frameRate;
-    } cases[] = {{24, 24},      {50, 50},  {59.94, 59.94},  {60, 60},  {75, 75},         {90, 45},
-                 {100, 50},     {120, 60}, {143.86, 71.93}, {144, 72}, {144.05, 72.025}, {165, 55},
-                 {170, 56.667}, {240, 60}, {280, 56},       {360, 60}, {1000, 58.82}};
-    for (const auto& [refreshRate, frameRate] : cases) {
-        const int refreshes = refreshesPerFrame(static_cast<Nanoseconds>(1e9 / refreshRate));
-        EXPECT_NEAR(refreshRate / refreshes, frameRate, 0.01) << refreshRate;
-    }
-}
