@@ -1,5 +1,8 @@
 #include "zrk/textures/rgba32_format.h"
 
+#include <array>
+#include <utility>
+
 namespace zrk {
 
 const SDL_PixelFormat rgba32Format = {
@@ -22,12 +25,24 @@ const SDL_PixelFormat rgba32Format = {
     .alpha = 0,
 };
 
+namespace {
+
+// SDL maps as many colours as the palette says it has, but an image may hold any index. The array
+// always has 256 entries; those that the image does not define become black.
+void completePalette(SDL_Surface& surface)
+{
+    std::array<SDL_Color, 256> black{};
+    const int defined =
+        std::exchange(surface.format->palette->ncolors, static_cast<int>(black.size()));
+    SDL_SetColors(&surface, black.data(), defined, static_cast<int>(black.size()) - defined);
+}
+
+} // namespace
+
 OwnedSurface toRgba32(SDL_Surface& surface)
 {
-    // SDL maps as many colours as the palette says it has, but an image may hold any index. The
-    // array always has 256 entries; those that the image does not define are black.
     if (surface.format->BitsPerPixel == 8 && surface.format->palette != nullptr)
-        surface.format->palette->ncolors = 256;
+        completePalette(surface);
     SDL_PixelFormat format = rgba32Format; // SDL's parameter is not const
     return OwnedSurface(SDL_ConvertSurface(&surface, &format, 0));
 }
