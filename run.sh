@@ -5,6 +5,7 @@ set -euo pipefail
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")"
 source scripts/checkout.sh
 source scripts/packages.sh
+source scripts/virtual_display.sh
 
 check_checkout
 require_packages $build_packages $run_packages
@@ -40,18 +41,7 @@ show_on_display()
 [ -z "${DISPLAY:-}" ] || show_on_display
 require_packages $virtual_display_packages
 picture=build/quazo.png
-
-# The server picks a free number, and writes it down once it is ready.
-Xvfb -displayfd 3 -screen 0 1280x720x24 -nolisten tcp 3>"$scratch/number" 2>"$scratch/server.log" &
-server=$!
-for _ in $(seq 100); do
-    [ -s "$scratch/number" ] && break
-    kill -0 "$server" 2>/dev/null || stop "cannot start Xvfb: $(tail -n 1 "$scratch/server.log")"
-    sleep 0.1
-done
-[ -s "$scratch/number" ] || stop "Xvfb did not come up"
-export DISPLAY=":$(cat "$scratch/number")"
-
+start_display 1280x720
 build/release/quazo /s &
 saver=$!
 sleep 6
