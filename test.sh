@@ -80,8 +80,11 @@ build_package()
     local log=build/package.log
     cpack --config build/release/CPackConfig.cmake -B build/package >"$log" 2>&1 ||
         { cat "$log"; return 1; }
+    # Newer ones ask AppStream, which misses a homepage, and there is none.
+    local homepage=appstream-metadata-validation-failed suppressed=()
+    ! lintian-explain-tags "$homepage" >/dev/null 2>&1 || suppressed=(--suppress-tags "$homepage")
     lintian --allow-root --display-info --pedantic --fail-on error,warning,info,pedantic \
-        build/package/*.deb
+        "${suppressed[@]}" build/package/*.deb
 }
 
 run_clang_tidy()
