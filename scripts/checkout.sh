@@ -14,8 +14,8 @@ check_checkout()
     *['#;"\|<>'$'\n']* | *'${'*) stop "no build works below a path with # ; \" \\ | < > or \${: $PWD" ;;
     esac
     mkdir -p build 2>/dev/null || stop "cannot write here: $PWD"
-    local foreign
-    foreign=$(find build ! -type l ! -writable -print -quit 2>/dev/null)
+    local foreign # but for what `sudo cmake --install` leaves
+    foreign=$(find build ! -type l ! -name install_manifest.txt ! -writable -print -quit 2>/dev/null)
     [ -z "$foreign" ] ||
         stop "$(stat -c %U "$foreign") owns $foreign, so remove it first: sudo rm -r $(printf %q "$PWD/build")"
     forget_moved_builds
