@@ -25,11 +25,11 @@ struct WindowRecord {
     desktop::Size client;     ///< As the server last reported.
     bool sizeIsToTell = true; ///< `client` is to be reported to the program.
     MapRequests requests;
-    bool shown = false;                                ///< Mapped.
-    bool pointerHidden = false;                        ///< While it is over the window.
-    bool iconic = false, hidden = false;               ///< Either means minimised.
-    bool obscured = false;                             ///< Wholly behind other windows.
-    std::chrono::steady_clock::time_point seenUntil{}; ///< Till then the server is not asked again.
+    bool shown = false;                              ///< Mapped.
+    bool pointerHidden = false;                      ///< While it is over the window.
+    bool iconic = false, hidden = false;             ///< Either means minimised.
+    bool obscured = false;                           ///< Wholly behind other windows.
+    std::chrono::steady_clock::time_point seenUntil; ///< Till then the server is not asked again.
 };
 
 /// The parameters of a new window.
