@@ -11,6 +11,7 @@
 #include <X11/Xutil.h>
 
 #include <algorithm>
+#include <chrono>
 #include <iterator>
 
 namespace platform::x11 {
@@ -101,17 +102,23 @@ bool onEnter(WindowRecord& record, const XEvent& event, Message& result)
     return true;
 }
 
+bool isMinimised(const WindowRecord& record)
+{
+    return record.iconic || record.hidden;
+}
+
 // The wParam of WM_ACTIVATE: low word the kind of activation, high word whether minimised.
 WPARAM activation(const WindowRecord& record, WPARAM active)
 {
-    const bool minimised = record.iconic || record.hidden;
-    return minimised ? WA_INACTIVE | (WPARAM{1} << 16) : active;
+    return isMinimised(record) ? WA_INACTIVE | (WPARAM{1} << 16) : active;
 }
 
 bool onFocus(WindowRecord& record, const XEvent& event, Message& result)
 {
     if (!isFocusChange(event.xfocus))
         return false;
+    // With another mode a grab is active, by a locker or by keys that switch windows.
+    record.keyboardLost = event.type == FocusOut && event.xfocus.mode == NotifyNormal;
     const WPARAM active = event.type == FocusIn ? WA_ACTIVE : WA_INACTIVE;
     result = plainMessage(record, WM_ACTIVATE, activation(record, active), 0);
     return true;
@@ -121,12 +128,12 @@ bool onFocus(WindowRecord& record, const XEvent& event, Message& result)
 // what changes the sum of them is a message.
 bool onProperty(WindowRecord& record, const XEvent& event, Message& result)
 {
-    const bool wasMinimised = record.iconic || record.hidden;
+    const bool wasMinimised = isMinimised(record);
     if (event.xproperty.atom == atom(AtomName::wmState))
         record.iconic = isIconic(event.xany.display, record.id);
     else if (event.xproperty.atom == atom(AtomName::netWmState))
         record.hidden = isHidden(event.xany.display, record.id);
-    if (wasMinimised == (record.iconic || record.hidden))
+    if (wasMinimised == isMinimised(record))
         return false;
     result = plainMessage(record, WM_ACTIVATE, activation(record, WA_ACTIVE), 0);
     return true;
@@ -212,6 +219,22 @@ bool reportSize(Message& result)
     return true;
 }
 
+// A window that appears while the saver runs takes the focus although it is hidden below: what the
+// user types would go there, and Escape too. Not more often than once a second, so that two
+// programs that both insist do not fight.
+void reclaimKeyboards(Display* display)
+{
+    using namespace std::chrono;
+    for (WindowRecord& record : windowRecords()) {
+        if (!record.keyboardLost || isMinimised(record) ||
+            steady_clock::now() - record.keyboardAsked < seconds(1))
+            continue;
+        record.keyboardLost = false;
+        record.keyboardAsked = steady_clock::now();
+        reclaimKeyboard(display, record.id);
+    }
+}
+
 } // namespace
 
 bool nextMessage(Display* display, Message& result)
@@ -222,6 +245,7 @@ bool nextMessage(Display* display, Message& result)
         if (translate(event, result))
             return true;
     }
+    reclaimKeyboards(display);
     return reportSize(result);
 }
 

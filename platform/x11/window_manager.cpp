@@ -65,6 +65,11 @@ void sendToManager(Display* display, ::Window window, AtomName type,
                SubstructureRedirectMask | SubstructureNotifyMask, &event);
 }
 
+void requestActivation(Display* display, ::Window window, long source)
+{
+    sendToManager(display, window, AtomName::netActiveWindow, {source, CurrentTime, 0, 0, 0});
+}
+
 void writeStandardHints(Display* display, ::Window window, const char* title)
 {
     XSizeHints place{};
@@ -142,8 +147,16 @@ void giveKeyboard(Display* display, ::Window window)
         return;
     }
     constexpr long fromApplication = 1;
-    sendToManager(display, window, AtomName::netActiveWindow,
-                  {fromApplication, CurrentTime, 0, 0, 0});
+    requestActivation(display, window, fromApplication);
+}
+
+// As a pager, which acts for the user: managers refuse an application that asks while the user
+// works in another window.
+void reclaimKeyboard(Display* display, ::Window window)
+{
+    constexpr long fromPager = 2;
+    if (managerRuns(display))
+        requestActivation(display, window, fromPager);
 }
 
 Atom protocolOf(const XEvent& event)

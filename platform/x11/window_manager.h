@@ -25,6 +25,10 @@ void requestCover(Display* display, ::Window window);
 /// where no manager runs.
 void giveKeyboard(Display* display, ::Window window);
 
+/// Asks the manager to activate a mapped window from which another window took the keyboard focus;
+/// does nothing where no manager runs.
+void reclaimKeyboard(Display* display, ::Window window);
+
 /// The protocol in a WM_PROTOCOLS message; 0 for any other event.
 [[nodiscard]] Atom protocolOf(const XEvent& event);
 

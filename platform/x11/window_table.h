@@ -30,6 +30,8 @@ struct WindowRecord {
     bool iconic = false, hidden = false;             ///< Either means minimised.
     bool obscured = false;                           ///< Wholly behind other windows.
     std::chrono::steady_clock::time_point seenUntil; ///< Till then the server is not asked again.
+    bool keyboardLost = false; ///< Another window took the focus; not asked for since.
+    std::chrono::steady_clock::time_point keyboardAsked; ///< When it was asked for last.
 };
 
 /// The parameters of a new window.

@@ -84,3 +84,17 @@ TEST_F(Port, RestsWhileNobodySeesTheWindowAndShowsTheNextFrameThatSomebodySees)
         EXPECT_EQ(user.look().brightness(400, 300), 255) << name;
     }
 }
+
+TEST_F(Port, TakesTheKeyboardBackFromWindowsThatAppear)
+{
+    manage();
+    openAndShow();
+    EXPECT_EQ(next(WM_ACTIVATE).wParam, WA_ACTIVE);
+    for (int thief = 0; thief < 2; ++thief) { // the second one in less than a second
+        XMapWindow(server,
+                   XCreateSimpleWindow(server, DefaultRootWindow(server), 0, 0, 50, 50, 0, 0, 0));
+        XSync(server, False);
+        EXPECT_EQ(next(WM_ACTIVATE).wParam, WA_INACTIVE);
+        EXPECT_EQ(next(WM_ACTIVATE).wParam, WA_ACTIVE);
+    }
+}
