@@ -20,25 +20,12 @@ cmake "${configuration[@]}" -DBUILD_TESTING=OFF -DQUAZO_BENCH=OFF >/dev/null ||
     stop "cannot configure the build"
 cmake --build --preset release || stop "cannot build"
 
+if [ -n "${DISPLAY:-}" ]; then
+    echo "Escape, a click or a good move of the mouse ends the saver."
+    exec build/release/quazo /s
+fi
 scratch=$(mktemp -d)
 trap 'kill ${saver:-} ${server:-} 2>/dev/null || true; wait; rm -rf "$scratch"' EXIT
-
-# The saver's status, which is 0 also where it finds no display.
-show_on_display()
-{
-    echo "Escape, a click or a good move of the mouse ends the saver."
-    build/release/quazo /s 2>"$scratch/errors" &
-    saver=$!
-    local status=0
-    wait "$saver" || status=$?
-    saver=
-    cat "$scratch/errors" >&2
-    # It says so there only where it can show no box.
-    ! grep -q "^Window Creation Error" "$scratch/errors" || stop "cannot reach the display $DISPLAY"
-    exit "$status"
-}
-
-[ -z "${DISPLAY:-}" ] || show_on_display
 require_packages $virtual_display_packages
 picture=build/quazo.png
 start_display 1280x720

@@ -42,8 +42,9 @@ struct Message {
 /// process with status 1 and a line on standard error. To be called before all other functions.
 void chooseHost(int argumentCount, const char* const* arguments);
 
-/// The desktop's size; false when there is no desktop to draw on. The first call connects; from
-/// then on the process exits with status 0 as soon as the desktop, or the host's window, is gone.
+/// The desktop's size; false when it is not known. The first call connects: without a desktop the
+/// process ends with status 1 and a line on standard error. From then on it exits with status 0 as
+/// soon as the desktop, or the host's window, is gone.
 [[nodiscard]] bool size(Size& result);
 
 /// Where the pointer is now.
@@ -92,8 +93,8 @@ void showPointer(NativeWindow window, bool visible);
 
 /// Shows a message box with an OK button and returns when it is closed, or when `endDescriptor`
 /// (-1: none) becomes readable. The box has the keyboard focus, and the pointer is visible over our
-/// windows too. Without a display, or inside a host's window, the text goes to standard error
-/// instead. Connects if necessary.
+/// windows too. Inside a host's window, and where no box can be made, the text goes to standard
+/// error instead. Connects if necessary.
 void messageBox(const char* text, const char* caption, UINT type, int endDescriptor);
 
 /// Sets or clears the desktop-wide flag that a screen saver is running. However this process ends,

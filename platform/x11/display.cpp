@@ -6,8 +6,9 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdio>
+#include <cstdlib>
 #include <unistd.h>
-#include <utility>
 
 namespace platform::x11 {
 
@@ -39,7 +40,6 @@ constexpr std::array<const char*, atomCount> atomTexts = {
 };
 
 constinit Display* theConnection = nullptr;
-constinit bool tried = false;
 constinit std::array<Atom, atomCount> atoms{};
 constinit XErrorTrap* innermostTrap = nullptr;
 constinit ErrorObserver observer = nullptr;
@@ -48,6 +48,16 @@ constinit ErrorObserver observer = nullptr;
 int endQuietly(Display* /*display*/)
 {
     _exit(0);
+}
+
+// There is nowhere to show a box. The name is "" where DISPLAY is not set.
+[[noreturn]] void endWithoutDisplay()
+{
+    std::fprintf(stderr,
+                 "quazo: no X display can be reached (DISPLAY is \"%s\"); on Wayland, install "
+                 "xwayland\n",
+                 XDisplayName(nullptr));
+    std::exit(1);
 }
 
 void prepare(Display* display)
@@ -63,15 +73,16 @@ void prepare(Display* display)
 
 Display* openConnection()
 {
-    if (std::exchange(tried, true))
+    if (theConnection != nullptr)
         return theConnection;
     observer = nullptr;
     XSetErrorHandler(&XErrorTrap::note); // for every connection of this process
     XSetIOErrorHandler(&endQuietly);
-    openWatch();
     theConnection = XOpenDisplay(nullptr);
-    if (theConnection != nullptr)
-        prepare(theConnection);
+    if (theConnection == nullptr)
+        endWithoutDisplay();
+    openWatch();
+    prepare(theConnection);
     return theConnection;
 }
 
@@ -85,7 +96,6 @@ void closeConnection()
     if (theConnection != nullptr)
         XCloseDisplay(theConnection);
     theConnection = nullptr;
-    tried = false;
     closeWatch();
 }
 

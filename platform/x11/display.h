@@ -5,9 +5,9 @@
 /// The one connection to the X server, its errors and its atoms.
 namespace platform::x11 {
 
-/// Opens the connection unless it is open; null when no server can be reached, which is tried once.
-/// If it is lost, the process exits at once with status 0: no destructor runs, so nothing calls
-/// OpenGL on a lost connection.
+/// The connection, which the first call opens. Exits with status 1, after a line on standard error,
+/// when no server can be reached. If the connection is lost, the process exits at once with status
+/// 0: no destructor runs, so nothing calls OpenGL on a lost connection.
 Display* openConnection();
 
 /// The connection if it is open, else null.

@@ -36,8 +36,6 @@ Display* connected()
     if (connection() != nullptr)
         return connection();
     Display* const display = openConnection();
-    if (display == nullptr)
-        return nullptr;
     adoptHost(display);
     startWatch(hosted() ? hostWindow() : None);
     return display;
@@ -105,18 +103,13 @@ void chooseHost(int argumentCount, const char* const* arguments)
 
 bool size(Size& result)
 {
-    Display* const display = connected();
-    if (display == nullptr)
-        return false;
-    result = desktopArea(display).size;
+    result = desktopArea(connected()).size;
     return true;
 }
 
 bool pointerPosition(POINT& result)
 {
     Display* const display = connected();
-    if (display == nullptr)
-        return false;
     const DesktopArea area = desktopArea(display);
     ::Window root = 0, child = 0;
     int rootX = 0, rootY = 0, x = 0, y = 0;
@@ -147,8 +140,6 @@ void disconnect()
 NativeWindow createWindow(const char* title, int x, int y, Size client)
 {
     Display* const display = connected();
-    if (display == nullptr)
-        return 0;
     XErrorTrap trap(display);
     const DesktopArea area = desktopArea(display);
     const POINT place{area.corner.x + x, area.corner.y + y};
@@ -278,9 +269,12 @@ PROC glProcedure(const char* name)
 
 void messageBox(const char* text, const char* caption, UINT type, int endDescriptor)
 {
-    if (hosted())
+    if (hosted()) {
         printInOneLine(text);
-    else if (connected() == nullptr || !runMessageDialog(text, caption, type, endDescriptor))
+        return;
+    }
+    connected();
+    if (!runMessageDialog(text, caption, type, endDescriptor))
         std::fprintf(stderr, "%s\n", text);
 }
 
