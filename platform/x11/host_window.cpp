@@ -3,6 +3,7 @@
 #include "platform/x11/display.h"
 #include "platform/x11/window_table.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstdio>
@@ -98,6 +99,20 @@ void adoptHost(Display* display)
     }
     adopted = true;
     observeErrors(endWithHost);
+}
+
+void printInOneLine(std::string text)
+{
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    std::fprintf(stderr, "%s\n", text.c_str());
+}
+
+void endIfHosted(const char* reason)
+{
+    if (!hosted())
+        return;
+    std::fprintf(stderr, "quazo: cannot draw in the host's window: %s\n", reason);
+    std::exit(1);
 }
 
 void releaseHost()

@@ -2,6 +2,8 @@
 
 #include <X11/Xlib.h>
 
+#include <string>
+
 /// The host: a program that started us to draw in one of its windows.
 namespace platform::x11 {
 
@@ -19,6 +21,14 @@ void chooseHostWindow(int argumentCount, const char* const* arguments);
 /// the process exits with status 0 when that window is destroyed. Exits with status 1, after a line
 /// on standard error, when there is no such window.
 void adoptHost(Display* display);
+
+/// Writes `text` as one line to standard error, which a host's log shows: there is no other way
+/// where a box would not be seen.
+void printInOneLine(std::string text);
+
+/// To be called when the saver cannot start. If there is a host, exits with status 1 after a line
+/// with the reason: the shell would end with status 0, and the host would see a saver that ran.
+void endIfHosted(const char* reason);
 
 /// Forgets the host's window, when the connection is about to be closed.
 void releaseHost();

@@ -15,10 +15,6 @@
 
 #include <GL/glx.h>
 
-#include <algorithm>
-#include <cstdio>
-#include <string>
-
 // All functions of the port, on X11. What is different in a host's window is decided here.
 
 namespace platform::x11 {
@@ -80,12 +76,6 @@ void putOnScreen(Display* display, WindowRecord& record)
     if (record.requests.focus)
         giveKeyboard(display, record.id);
     updateClientSize(display, record);
-}
-
-void printInOneLine(std::string text)
-{
-    std::replace(text.begin(), text.end(), '\n', ' ');
-    std::fprintf(stderr, "%s\n", text.c_str());
 }
 
 } // namespace
@@ -152,6 +142,7 @@ NativeWindow createWindow(const char* title, int x, int y, Size client)
     if (!hosted())
         describeWindow(display, record->id, title);
     if (trap.firstError() != 0) {
+        endIfHosted("no window could be created");
         removeWindow(display, *record);
         return 0;
     }
@@ -219,7 +210,10 @@ void showPointer(NativeWindow window, bool visible)
 
 int choosePixelFormat(NativeWindow window, const PIXELFORMATDESCRIPTOR& descriptor)
 {
-    return findDrawable(window) != nullptr && serves(descriptor) ? onlyFormat : 0;
+    if (findDrawable(window) != nullptr && serves(descriptor))
+        return onlyFormat;
+    endIfHosted("no pixel format for OpenGL");
+    return 0;
 }
 
 bool setPixelFormat(NativeWindow window, int format)
@@ -230,7 +224,10 @@ bool setPixelFormat(NativeWindow window, int format)
 NativeContext createContext(NativeWindow window)
 {
     const WindowRecord* const record = findDrawable(window);
-    return record == nullptr ? nullptr : addContext(*record);
+    const NativeContext context = record == nullptr ? nullptr : addContext(*record);
+    if (context == nullptr)
+        endIfHosted("no OpenGL context");
+    return context;
 }
 
 bool makeCurrent(NativeWindow window, NativeContext context)
@@ -238,8 +235,10 @@ bool makeCurrent(NativeWindow window, NativeContext context)
     if (context == nullptr)
         return leaveContext();
     const WindowRecord* const record = findRecord(window);
-    if (record == nullptr || !selectContext(context, *record))
+    if (record == nullptr || !selectContext(context, *record)) {
+        endIfHosted("the OpenGL context cannot be used");
         return false;
+    }
     setPace(connection(), window, desktopArea(connection()));
     return true;
 }
@@ -269,13 +268,11 @@ PROC glProcedure(const char* name)
 
 void messageBox(const char* text, const char* caption, UINT type, int endDescriptor)
 {
-    if (hosted()) {
-        printInOneLine(text);
-        return;
-    }
+    if (hosted())
+        return printInOneLine(text);
     connected();
     if (!runMessageDialog(text, caption, type, endDescriptor))
-        std::fprintf(stderr, "%s\n", text);
+        printInOneLine(text);
 }
 
 void setScreenSaverRunning(bool running)

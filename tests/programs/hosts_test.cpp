@@ -133,6 +133,11 @@ TEST_F(Hosts, ReadMessagesOnStandardErrorIfTheyHaveOne)
     ChildProcess saver = quazo({"/s"}, noData);
     EXPECT_EQ(saver.wait(), 1);
     EXPECT_EQ(saver.standardError(), "erreur : datas untrouvable\n");
+    ChildProcess unable =
+        quazo({"/s"}, {{"XSCREENSAVER_WINDOW", window}, {"LIBGL_ALWAYS_INDIRECT", "1"}});
+    EXPECT_EQ(unable.wait(), 1);
+    EXPECT_EQ(unable.standardError(),
+              "quazo: cannot draw in the host's window: no OpenGL context\n");
     ChildProcess silent({"/bin/sh", "-c", "exec \"$0\" /s 2>&-", QUAZO_PROGRAM}, noData);
     EXPECT_EQ(silent.wait(), 1);
 }
