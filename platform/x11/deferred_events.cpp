@@ -1,8 +1,24 @@
 #include "platform/x11/deferred_events.h"
 
+#include "platform/win32_names.h"
+#include "platform/x11/keys.h"
 #include "platform/x11/window_manager.h"
 
+#include <algorithm>
+#include <array>
+
 namespace platform::x11 {
+
+namespace {
+
+bool closesBox(const XEvent& event)
+{
+    constexpr std::array closing{VK_RETURN, VK_ESCAPE, VK_SPACE};
+    return event.type == KeyPress &&
+           std::find(closing.begin(), closing.end(), virtualKey(event.xkey)) != closing.end();
+}
+
+} // namespace
 
 // XPutBackEvent puts an event before all others, so the last one goes first.
 DeferredEvents::~DeferredEvents()
@@ -11,18 +27,22 @@ DeferredEvents::~DeferredEvents()
         XPutBackEvent(server, &*event);
 }
 
-bool DeferredEvents::take()
+DeferredEvents::Noticed DeferredEvents::take()
 {
-    bool focused = false;
+    Noticed noticed;
     while (XPending(server) > 0) {
         XEvent event;
         XNextEvent(server, &event);
         if (answerPing(event))
             continue;
-        focused |= event.type == FocusIn && isFocusChange(event.xfocus);
+        if (closesBox(event)) {
+            noticed.closing = true;
+            continue;
+        }
+        noticed.focused |= event.type == FocusIn && isFocusChange(event.xfocus);
         keep(event);
     }
-    return focused;
+    return noticed;
 }
 
 // Consecutive moves become one, as they do on Windows: otherwise memory would grow as long as the

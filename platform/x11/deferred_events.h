@@ -15,9 +15,15 @@ public:
     DeferredEvents(const DeferredEvents&) = delete;
     DeferredEvents& operator=(const DeferredEvents&) = delete;
 
-    /// Takes the events that have arrived and answers pings. True when one of our windows has got
-    /// the keyboard focus since the last call.
-    [[nodiscard]] bool take();
+    /// What has happened to our windows since the last call, as far as it concerns the box.
+    struct Noticed {
+        bool focused = false; ///< One of them has got the keyboard focus.
+        bool closing = false; ///< A key that closes boxes was pressed in one of them.
+    };
+
+    /// Takes the events that have arrived and answers pings. A press that closes the box is not
+    /// kept.
+    [[nodiscard]] Noticed take();
 
 private:
     void keep(const XEvent& event);

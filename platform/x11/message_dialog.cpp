@@ -132,7 +132,8 @@ Layout layoutOf(const char* text)
 class MessageDialog {
 public:
     MessageDialog(const Layout& layout, const char* text, const char* caption, UINT type)
-        : window(layout.x, layout.y, layout.width, layout.height, caption),
+        : window(layout.x, layout.y, layout.width, layout.height,
+                 *caption == '\0' ? "quazo!" : caption), // taskbars list it by its name
           sign(layout.letter, layout.letter, 3 * layout.letter, 3 * layout.letter),
           message(5 * layout.letter, layout.letter + (layout.bodyHeight - layout.textHeight) / 2,
                   layout.textWidth + layout.letter, layout.textHeight, text),
@@ -179,11 +180,14 @@ private:
         Fl::add_fd(descriptor, FL_READ, handler, this);
     }
 
-    // A click beside the box gives the focus to the saver's window, which does not read the
-    // keyboard now.
+    // A click beside the box gives the focus to the saver's window, and some managers leave it
+    // there: the box answers to the same keys in both.
     void attend()
     {
-        if (saversEvents.take())
+        const DeferredEvents::Noticed noticed = saversEvents.take();
+        if (noticed.closing)
+            window.hide();
+        else if (noticed.focused)
             window.takeKeyboard();
     }
 

@@ -7,21 +7,13 @@
 
 using namespace platform::desktop;
 
-namespace {
-
-bool serverIsXwayland = false;
-
-} // namespace
+static bool xwayland = false;
 
 // A virtual server cannot be Xwayland, which needs a compositor, so it only claims to be.
-extern "C" {
-
-Bool __wrap_XQueryExtension(Display*, const char* name, int*, int*, int*)
+extern "C" Bool __wrap_XQueryExtension(Display*, const char* name, int*, int*, int*)
 {
-    return serverIsXwayland && std::string_view(name) == "XWAYLAND" ? True : False;
+    return xwayland && std::string_view(name) == "XWAYLAND" ? True : False;
 }
-
-} // extern "C"
 
 using Events = DesktopFixture;
 
@@ -57,8 +49,8 @@ TEST_F(Events, TellNoActivationByAGrabOrAFocusThatIsAnothers)
 TEST_F(Events, StartTheWayOfThePointerWhereTheWindowAppearsUnderItButOnXwaylandWithItsFirstMove)
 {
     user.moveTo(100, 100);
-    for (const bool xwayland : {true, false}) {
-        serverIsXwayland = xwayland;
+    for (const bool claimed : {true, false}) {
+        xwayland = claimed;
         const NativeWindow window = openAndShow();
         user.moveTo(300, 300);
         EXPECT_EQ(next(WM_MOUSEMOVE).pointer.x, xwayland ? 300 : 100);
