@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdlib>
 #include <cstring>
 
@@ -120,12 +121,23 @@ void clear(GLboolean colours)
 
 // A blit bypasses the fragment pipeline: colour mask, blending and viewport do not affect it. The
 // scissor test and the read and draw buffers do.
-void copy(GLuint source, GLuint target, desktop::Size size)
+void copy(GLuint source, desktop::Size from, GLuint target, desktop::Size to)
 {
     glBindFramebuffer(GL_READ_FRAMEBUFFER, source);
     glBindFramebuffer(GL_DRAW_FRAMEBUFFER, target);
-    glBlitFramebuffer(0, 0, size.width, size.height, 0, 0, size.width, size.height,
-                      GL_COLOR_BUFFER_BIT, GL_NEAREST);
+    glBlitFramebuffer(0, 0, from.width, from.height, 0, 0, to.width, to.height, GL_COLOR_BUFFER_BIT,
+                      from == to ? GL_NEAREST : GL_LINEAR);
+}
+
+// A length of `from` pixels, enlarged as far as it fits into `to`: what is copied, and to what.
+struct Fit {
+    int source, target;
+};
+
+Fit fitted(int from, int to, double zoom)
+{
+    const int target = std::min(to, static_cast<int>(std::lround(from * zoom)));
+    return {std::min(from, static_cast<int>(std::lround(target / zoom))), target};
 }
 
 } // namespace
@@ -155,9 +167,9 @@ bool BackBuffer::create(desktop::Size size, GLenum wantedFormat)
     return true;
 }
 
-void BackBuffer::fit(desktop::Size size)
+void BackBuffer::fit(desktop::Size size, double zoom)
 {
-    if (drawTarget == 0 || (size.width == extent.width && size.height == extent.height))
+    if (drawTarget == 0 || size == extent)
         return;
     const BindingScope restored;
     const GLuint made = makePixels(format, size);
@@ -166,12 +178,22 @@ void BackBuffer::fit(desktop::Size size)
     // The second framebuffer still has the old pixels: blit from these before it gets the new ones.
     attach(drawTarget, made);
     clear(GL_TRUE);
-    copy(copySource, drawTarget,
-         {std::min(size.width, extent.width), std::min(size.height, extent.height)});
+    const Fit columns = fitted(extent.width, size.width, zoom);
+    const Fit rows = fitted(extent.height, size.height, zoom);
+    copy(copySource, {columns.source, rows.source}, drawTarget, {columns.target, rows.target});
     attach(copySource, made);
     glDeleteRenderbuffers(1, &pixels);
     pixels = made;
     extent = size;
+}
+
+// Blending in the program writes alpha too; what it reads there has to be 1, as on a window.
+void BackBuffer::makeOpaque() const
+{
+    if (format == GL_RGB16)
+        return;
+    glBindFramebuffer(GL_DRAW_FRAMEBUFFER, copySource);
+    clear(GL_FALSE);
 }
 
 void BackBuffer::present() const
@@ -179,12 +201,18 @@ void BackBuffer::present() const
     if (drawTarget == 0)
         return;
     const BindingScope restored;
-    // Blending in the program writes alpha too; what it reads there has to be 1, as on a window.
-    if (format != GL_RGB16) {
-        glBindFramebuffer(GL_DRAW_FRAMEBUFFER, copySource);
-        clear(GL_FALSE);
-    }
-    copy(copySource, windowsOwn, extent);
+    makeOpaque();
+    copy(copySource, extent, windowsOwn, extent);
+}
+
+void BackBuffer::read(std::uint32_t* memory) const
+{
+    if (drawTarget == 0)
+        return;
+    const BindingScope restored;
+    makeOpaque();
+    glBindFramebuffer(GL_READ_FRAMEBUFFER, copySource);
+    glReadPixels(0, 0, extent.width, extent.height, GL_BGRA, GL_UNSIGNED_INT_8_8_8_8_REV, memory);
 }
 
 } // namespace platform

@@ -134,6 +134,15 @@ TEST_F(BackBuffer, KeepsThePictureOverAChangeOfSizeAsFarAsItFits)
     fill(1.0f, 0.0f, 0.0f); // reaches the new edges
     EXPECT_EQ(pixelAt(499, 599), (Pixel{255, 0, 0, 255}));
 
+    platform::BackBuffer picture;
+    ASSERT_TRUE(picture.create({100, 100}, GL_RGB16));
+    fill(0.0f, 0.0f, 1.0f);
+    picture.fit({300, 80}, 0.5); // enlarged by a half
+    EXPECT_EQ(pixelAt(49, 49), (Pixel{0, 0, 255, 255}));
+    EXPECT_EQ(pixelAt(50, 49), black);
+    picture.fit({90, 90}, 3.0);
+    EXPECT_EQ(pixelAt(89, 89), (Pixel{0, 0, 255, 255}));
+
     XResizeWindow(server, window, 640, 480);
     XSync(server, False);
     EXPECT_EQ(next(WM_SIZE).client, (Size{640, 480})); // the last of all
