@@ -1,17 +1,16 @@
 #!/usr/bin/env bash
 # Builds the libraries that the saver links on Windows into build/windows-libraries, static, with
 # mingw: SDL 1.2 and libpng from Debian's source packages, SDL_image 1.2 from a source archive.
-# Libraries that are there already are kept. The archives stay in its folder sources.
+# Libraries that are there already are kept. Their sources and licences stay beside them.
 #
 #     scripts/windows_libraries.sh [--sdl-image FILE]
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
-source scripts/checkout.sh
 source scripts/packages.sh
 
 image_archive=../shared/third_party/SDL_image-1.2.13.tar.gz
 image_sum=121666d27428100f722383785760888d321b8d3e9733ed8ea9075d333efd4ffb
-image_home=https://github.com/libsdl-org/SDL_image/releases
+image_home=https://github.com/libsdl-org/SDL_image
 
 case "${1:-}" in
 "") ;;
@@ -20,19 +19,21 @@ case "${1:-}" in
 esac
 
 target=x86_64-w64-mingw32
+compiler=$target-gcc-posix
 prefix=$PWD/build/windows-libraries
 made=$prefix/complete
 if [ -f "$made" ]; then
     exit
 fi
 
-[ -f "$image_archive" ] ||
-    stop "no $image_archive: take SDL_image-1.2.13.tar.gz from $image_home and name it with --sdl-image"
+[ -f "$image_archive" ] || {
+    echo "skipped: no $image_archive. Its public home is $image_home; name a copy with --sdl-image." >&2
+    exit 77 # what cannot be tried is no failure
+}
 echo "$image_sum  $image_archive" | sha256sum --check --status ||
     stop "$image_archive is not the archive that is expected: its SHA-256 should be $image_sum"
 image_archive=$(realpath "$image_archive")
 
-check_checkout
 require_packages $windows_packages
 rm -rf "$prefix"
 mkdir -p "$prefix/sources"
@@ -80,7 +81,7 @@ configure_and_make()
 {
     cd "$scratch/$1"
     ./configure --host="$target" --prefix="$prefix" --disable-shared --enable-static \
-        CFLAGS="$flags" "${@:2}"
+        CC="$compiler" CFLAGS="$flags" "${@:2}"
     make -j "$(nproc)" install
 }
 
@@ -92,9 +93,21 @@ make_image()
     for format in BMP GIF LBM PCX PNG PNM TGA XCF XPM XV; do
         flags+=" -DLOAD_$format"
     done
-    $target-gcc $flags -I"$prefix/include" -I"$prefix/include/SDL" -c IMG*.c
+    $compiler $flags -I"$prefix/include" -I"$prefix/include/SDL" -c IMG*.c
     $target-ar rcs "$prefix/lib/libSDL_image.a" IMG*.o
     cp SDL_image.h "$prefix/include/SDL"
+}
+
+keep_licences()
+{
+    mkdir "$prefix/licences"
+    cd "$prefix/licences"
+    cp "$scratch/sdl/COPYING" SDL.txt
+    cp "$scratch/image/COPYING" SDL_image.txt
+    cp "$scratch/png/LICENSE" libpng.txt
+    cp /usr/share/doc/libz-mingw-w64-dev/copyright zlib.txt
+    cp /usr/share/doc/mingw-w64-common/copyright mingw.txt
+    cp /usr/share/doc/gcc-mingw-w64-base/copyright GCC.txt
 }
 
 # The saver uses SDL's surfaces, and neither its window nor its sound.
@@ -106,6 +119,7 @@ build_libraries()
         --disable-video-opengl --disable-stdio-redirect
     configure_and_make png
     make_image
+    keep_licences
     touch "$made"
 }
 
