@@ -1,20 +1,20 @@
 #!/usr/bin/env bash
 # Everything that is checked before a change counts as done; the continuous integration runs this.
 # With --quick only what takes seconds once the release is built: layers, format, and the tests that
-# need no display. A step that fails does not stop those that do not need it.
+# need no display. With --windows the build for Windows is tried too, under wine. A step that fails
+# does not stop those that do not need it.
 set -uo pipefail
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")" || exit
 source scripts/checkout.sh
 source scripts/packages.sh
 
 case "${1:-}" in
-"") quick= ;;
---quick) quick=1 ;;
-*) stop "usage: ./test.sh [--quick]" ;;
+"" | --quick | --windows) ;;
+*) stop "usage: ./test.sh [--quick | --windows]" ;;
 esac
 check_checkout
 
-declare -A results=() # of the steps so far: passed, failed or skipped
+declare -A results=() # of the steps so far: passed, failed, skipped, or left out (not to be had here)
 table=""
 
 # step NAME NEEDED COMMAND...: runs the command, unless the step NEEDED, "" for none, has not passed.
@@ -29,7 +29,11 @@ step()
     else
         # In a shell of its own, and not as a condition, so that the first command to fail ends it.
         (set -e; "$@")
-        if [ $? -eq 0 ]; then results[$name]=passed; else results[$name]=failed; fi
+        case $? in
+        0) results[$name]=passed ;;
+        77) results[$name]="left out" ;;
+        *) results[$name]=failed ;;
+        esac
     fi
     table+=$(printf '%-18s %-8s %5d s' "$name" "${results[$name]}" $((SECONDS - begin)))$'\n'
 }
@@ -99,7 +103,7 @@ step "layers" "" check_layers
 step "format" "" check_format
 step "documents" "packages" check_documents
 step "release build" "packages" build release
-if [ -n "$quick" ]; then
+if [ "${1:-}" = --quick ]; then
     step "release tests" "release build" run_tests release -LE display
 else
     step "release tests" "release build" run_tests release
@@ -109,6 +113,7 @@ else
     step "hosts" "release build" scripts/try_hosts.sh
     step "package" "release build" build_package
     step "clang-tidy" "release build" run_clang_tidy
+    [ "${1:-}" != --windows ] || step "windows" "release build" scripts/try_windows.sh
 fi
 
 printf '\n%s' "$table"

@@ -6,8 +6,10 @@
 #     scripts/build_windows.sh [--sdl-image FILE]
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+source scripts/checkout.sh
 source scripts/packages.sh
 
+check_checkout
 require_packages $build_packages $windows_packages
 scripts/windows_libraries.sh "$@"
 [ -f build/release/CMakeCache.txt ] || # its settings stay as they are

@@ -11,7 +11,7 @@ test_packages="python3 clang-format clang-tidy libgtest-dev libgmock-dev libbenc
     libxtst-dev libxfixes-dev xvfb openbox scrot procps xscreensaver xsecurelock dpkg-dev file lintian
     mandoc"
 windows_packages="g++-mingw-w64-x86-64-posix libz-mingw-w64-dev dpkg-dev make nsis zip"
-windows_test_packages="wine wine64 googletest xvfb openbox xdotool x11-utils scrot imagemagick"
+windows_test_packages="wine wine64 googletest xdotool x11-utils imagemagick"
 
 # require_packages PACKAGE...: installs those that are missing, as root or with sudo; ends the
 # script with one line when that cannot be done. On a system without Debian's packages it does

@@ -6,6 +6,7 @@
 #     scripts/windows_libraries.sh [--sdl-image FILE]
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+source scripts/checkout.sh
 source scripts/packages.sh
 
 image_archive=../shared/third_party/SDL_image-1.2.13.tar.gz
@@ -34,6 +35,7 @@ echo "$image_sum  $image_archive" | sha256sum --check --status ||
     stop "$image_archive is not the archive that is expected: its SHA-256 should be $image_sum"
 image_archive=$(realpath "$image_archive")
 
+check_checkout
 require_packages $windows_packages
 rm -rf "$prefix"
 mkdir -p "$prefix/sources"
