@@ -7,9 +7,11 @@ build_packages="cmake ninja-build g++ pkg-config libsdl1.2-dev libsdl-image1.2-d
 run_packages="libgl1-mesa-dri"
 virtual_display_packages="xvfb scrot"
 fuzz_packages="clang libclang-rt-dev"
+host_packages="xscreensaver xsecurelock mate-screensaver weston sway swayidle xwayland xprintidle
+    xdotool x11-xserver-utils dbus-daemon libglib2.0-bin"
 test_packages="python3 clang-format clang-tidy libgtest-dev libgmock-dev libbenchmark-dev
-    libxtst-dev libxfixes-dev xvfb openbox scrot procps xscreensaver xsecurelock dpkg-dev file lintian
-    mandoc"
+    libxtst-dev libxfixes-dev xvfb openbox scrot procps dpkg-dev file lintian mandoc
+    $host_packages"
 windows_packages="g++-mingw-w64-x86-64-posix libz-mingw-w64-dev dpkg-dev make nsis zip"
 windows_test_packages="wine wine64 googletest xdotool x11-utils imagemagick"
 
