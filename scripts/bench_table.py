@@ -2,6 +2,7 @@
 """Prints the medians of Google Benchmark's JSON files, and the ratios between related ones."""
 
 import json
+import re
 import sys
 
 # The scenes of surface_bench, as its names have them.
@@ -23,32 +24,36 @@ RATIOS = [
      "frameOnWindowsBuffer"),
 ]
 
-NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
+MILLISECONDS = {"ns": 1e-6, "us": 1e-3, "ms": 1, "s": 1e3}
 
 
-def medians(paths):
-    times = {}
-    for path in paths:
-        with open(path, encoding="utf-8") as file:
-            for run in json.load(file)["benchmarks"]:
-                if run.get("aggregate_name") == "median":
-                    name = run["run_name"].split("/iterations")[0]
-                    # CPU time, which a busy machine disturbs less, unless the bench asks for the other.
-                    cpu = not run["run_name"].endswith("/real_time")
-                    time = run["cpu_time" if cpu else "real_time"]
-                    name = name.removesuffix("/real_time").removesuffix("/process_time")
-                    times[name] = time * NANOSECONDS[run["time_unit"]]
-    return times
+def times(path, aggregate=None):
+    """What ran, and its milliseconds: of each run, or of the aggregate with that name. Of a bench
+    that asks for real time both, of others the CPU time, which a busy machine disturbs less; then
+    its counters in milliseconds."""
+    with open(path, encoding="utf-8") as file:
+        text = file.read()
+    for run in json.loads(text)["benchmarks"] if text else []:  # no text: the filter matched nothing
+        if run.get("aggregate_name") != aggregate or run.get("error_occurred"):
+            continue
+        unit = MILLISECONDS[run["time_unit"]]
+        real = run["run_name"].endswith("/real_time")
+        name = re.sub("(/(iterations:.*|process_time|real_time))+$", "", run["run_name"])
+        if real:
+            yield name, run["real_time"] * unit
+        yield f"{name}, CPU" if real else name, run["cpu_time"] * unit
+        for counter in (key for key in run if key.endswith("_ms")):
+            yield f"{name}, {counter.removesuffix('_ms').replace('_', ' ')}", run[counter]
 
 
 def main():
-    times = medians(sys.argv[1:])
-    for name, time in times.items():
-        print(f"{name:64} {time / 1e6:14.6f} ms")
+    medians = {name: time for path in sys.argv[1:] for name, time in times(path, "median")}
+    for name, time in medians.items():
+        print(f"{name:64} {time:14.6f} ms")
     print()
     for label, one, other in RATIOS:
-        if one in times and other in times:
-            print(f"{label:64} {times[one] / times[other]:8.2f}")
+        if one in medians and other in medians:
+            print(f"{label:64} {medians[one] / medians[other]:8.2f}")
 
 
 if __name__ == "__main__":
