@@ -18,7 +18,7 @@ namespace {
 
 constexpr long framesPerResize = 997; // no multiple of the caustics' cycle
 constexpr long framesPerSwap = 250;   // a swap waits for the monitor
-constexpr double mostGrowth = 1.1;    // the driver keeps what it makes for new sizes
+constexpr double mostGrowth = 1.3;    // the driver makes things late and keeps them
 
 struct Usage {
     long residentKib = 0;
