@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
@@ -99,6 +100,18 @@ void adoptHost(Display* display)
     }
     adopted = true;
     observeErrors(endWithHost);
+}
+
+// A host's windows often differ by 1, and a ball takes a fixed number of values: after numbers that
+// lie close together, the balls would be the same but for their order. Multiplying by 2^32 over the
+// golden ratio and taking the upper bits scatters them (Fibonacci hashing).
+void varyRandomNumbers()
+{
+    constexpr std::uint32_t goldenRatio = 2'654'435'769;
+    constexpr int unusedBits = 18; // up to 16383 values, in a quarter of a millisecond
+    const std::uint32_t scattered = static_cast<std::uint32_t>(hostWindow()) * goldenRatio;
+    for (std::uint32_t left = scattered >> unusedBits; left > 0; --left)
+        std::rand();
 }
 
 void printInOneLine(std::string text)

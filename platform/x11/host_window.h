@@ -22,6 +22,11 @@ void chooseHostWindow(int argumentCount, const char* const* arguments);
 /// on standard error, when there is no such window.
 void adoptHost(Display* display);
 
+/// Lets the C library's random numbers go on by a number of values that the host's window decides:
+/// savers that are seeded in the same second, one a monitor, show pictures of their own. To be
+/// called after the seeding.
+void varyRandomNumbers();
+
 /// Writes `text` as one line to standard error, which a host's log shows: there is no other way
 /// where a box would not be seen.
 void printInOneLine(std::string text);

@@ -138,6 +138,8 @@ NativeWindow createWindow(const char* title, int x, int y, Size client)
                  : addWindow(display, {area.parent, place, client, ownEvents});
     if (record == nullptr)
         return 0;
+    if (hosted())
+        varyRandomNumbers();
     record->origin = area.corner;
     if (!hosted())
         describeWindow(display, record->id, title);

@@ -33,3 +33,26 @@ TEST_F(HostWindow, IsNamedByTheArgumentBeforeTheEnvironmentAndIsTheDesktop)
         EXPECT_TRUE(User::waitUntil([&] { return !isSet(); }));
     }
 }
+
+TEST_F(HostWindow, GivesSaversOfTheSameSecondPicturesOfTheirOwn)
+{
+    const auto firstRandom = [this](Window host) {
+        const std::string number = std::to_string(host);
+        const char* const arguments[] = {"quazo", "--window-id", number.c_str()};
+        chooseHost(host == 0 ? 1 : 3, arguments);
+        std::srand(7);
+        EXPECT_NE(createWindow("title", 0, 0, {800, 600}), 0u);
+        disconnect();
+        return std::rand();
+    };
+    unsetenv("XSCREENSAVER_WINDOW");
+    const Window root = DefaultRootWindow(server);
+    const Window first = XCreateSimpleWindow(server, root, 0, 0, 300, 200, 0, 0, 0);
+    const Window second = XCreateSimpleWindow(server, root, 0, 0, 300, 200, 0, 0, 0);
+    XSync(server, False);
+    std::srand(7);
+    const int unchanged = std::rand();
+    EXPECT_NE(firstRandom(first), unchanged);
+    EXPECT_NE(firstRandom(first), firstRandom(second));
+    EXPECT_EQ(firstRandom(0), unchanged);
+}
