@@ -35,23 +35,24 @@ DesktopArea areaOf(Display* display, ::Window window)
 
 // RandR 1.5's monitors, not its outputs: a monitor may be several outputs that make one picture, or
 // a part of one that the user has split. Without RandR the whole screen counts as one monitor.
-DesktopArea primaryMonitor(Display* display)
+std::vector<DesktopArea> monitors(Display* display)
 {
     const ::Window root = DefaultRootWindow(display);
-    const DesktopArea screen = areaOf(display, root);
     if (!knowsMonitors(display))
-        return screen;
+        return {areaOf(display, root)};
     int count = 0;
     const std::unique_ptr<XRRMonitorInfo, decltype(&XRRFreeMonitors)> list(
         XRRGetMonitors(display, root, True, &count), &XRRFreeMonitors);
     if (list == nullptr || count <= 0)
-        return screen;
+        return {areaOf(display, root)};
     // Where no monitor is the primary one, the first one is.
-    const std::span monitors(list.get(), static_cast<std::size_t>(count));
-    const auto isPrimary = [](const XRRMonitorInfo& monitor) { return monitor.primary != 0; };
-    const auto primary = std::find_if(monitors.begin(), monitors.end(), isPrimary);
-    const XRRMonitorInfo& chosen = primary == monitors.end() ? monitors.front() : *primary;
-    return {root, {chosen.x, chosen.y}, {chosen.width, chosen.height}};
+    const std::span known(list.get(), static_cast<std::size_t>(count));
+    std::stable_partition(known.begin(), known.end(),
+                          [](const XRRMonitorInfo& monitor) { return monitor.primary != 0; });
+    std::vector<DesktopArea> areas;
+    for (const XRRMonitorInfo& monitor : known)
+        areas.push_back({root, {monitor.x, monitor.y}, {monitor.width, monitor.height}});
+    return areas;
 }
 
 } // namespace platform::x11

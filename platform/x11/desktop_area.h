@@ -4,6 +4,8 @@
 
 #include <X11/Xlib.h>
 
+#include <vector>
+
 namespace platform::x11 {
 
 /// Where a desktop lies: what its windows are children of, its top left corner there, its size.
@@ -16,8 +18,9 @@ struct DesktopArea {
 /// A window's size, asked of the server; 0 x 0 for one that is gone.
 [[nodiscard]] desktop::Size sizeOf(Display* display, ::Window window);
 
-/// The primary monitor on the root window, as it is now; asks the server.
-[[nodiscard]] DesktopArea primaryMonitor(Display* display);
+/// The monitors on the root window, as they are now, the primary one first; there is at least one.
+/// Monitors that show the same overlap. Asks the server.
+[[nodiscard]] std::vector<DesktopArea> monitors(Display* display);
 
 /// The whole of a window, as it is now; asks the server.
 [[nodiscard]] DesktopArea areaOf(Display* display, ::Window window);

@@ -4,6 +4,7 @@
 #include "platform/x11/display.h"
 #include "platform/x11/host_window.h"
 #include "platform/x11/keys.h"
+#include "platform/x11/monitor_layout.h"
 #include "platform/x11/window_manager.h"
 #include "platform/x11/window_table.h"
 #include "platform/x11/xwayland.h"
@@ -13,6 +14,7 @@
 #include <algorithm>
 #include <chrono>
 #include <iterator>
+#include <utility>
 
 namespace platform::x11 {
 
@@ -25,13 +27,20 @@ Message plainMessage(const WindowRecord& record, UINT kind, WPARAM wParam, LPARA
     return {record.id, kind, wParam, lParam, {}, {}};
 }
 
-// For all event types with a pointer position, which have the same members for it.
+// For all event types with a pointer position, which have the same members for it. That on the root
+// window counts; our window's top left corner is the desktop's. Where monitors change, the server
+// moves the pointer: the first position after that becomes the one that was told last, so that no
+// way lies between them.
 template <typename Event>
-Message pointerMessage(const WindowRecord& record, UINT kind, const Event& event)
+Message pointerMessage(WindowRecord& record, UINT kind, const Event& event)
 {
+    if (std::exchange(record.pointerJumped, false))
+        record.origin = {event.x_root - record.pointer.x, event.y_root - record.pointer.y};
+    record.pointer = {event.x_root - record.origin.x, event.y_root - record.origin.y};
     Message message = plainMessage(
-        record, kind, 0, MAKELPARAM(static_cast<WORD>(event.x), static_cast<WORD>(event.y)));
-    message.pointer = {event.x_root - record.origin.x, event.y_root - record.origin.y};
+        record, kind, 0,
+        MAKELPARAM(static_cast<WORD>(record.pointer.x), static_cast<WORD>(record.pointer.y)));
+    message.pointer = record.pointer;
     return message;
 }
 
@@ -193,7 +202,7 @@ bool translate(XEvent& event, Message& result)
 {
     if (event.type == MappingNotify)
         XRefreshKeyboardMapping(&event.xmapping);
-    if (followHost(event))
+    if (followHost(event) || followMonitors(event))
         return false;
     WindowRecord* const record = findRecord(event.xany.window);
     const auto translation =

@@ -7,6 +7,7 @@
 #include "platform/x11/events.h"
 #include "platform/x11/host_window.h"
 #include "platform/x11/message_dialog.h"
+#include "platform/x11/monitor_layout.h"
 #include "platform/x11/pointer.h"
 #include "platform/x11/presentation.h"
 #include "platform/x11/running_flag.h"
@@ -39,7 +40,7 @@ Display* connected()
 
 DesktopArea desktopArea(Display* display)
 {
-    return hosted() ? areaOf(display, hostWindow()) : primaryMonitor(display);
+    return hosted() ? areaOf(display, hostWindow()) : monitors(display).front();
 }
 
 // The one pixel format of a window, that of the visual that it was created with.
@@ -67,6 +68,7 @@ void onceShown(::Window window, bool MapRequests::*request, Action action)
 // A manager may have given the window another size by then, which its first frame has to fill.
 void putOnScreen(Display* display, WindowRecord& record)
 {
+    watchMonitors(display);
     record.shown = true;
     mapWindow(display, record.id);
     if (record.requests.raise)
@@ -187,9 +189,9 @@ bool placeWindow(NativeWindow window, int x, int y, Size client, bool topmost)
     Display* const display = connection();
     const DesktopArea area = desktopArea(display);
     record->origin = area.corner;
-    XMoveResizeWindow(display, window, area.corner.x + x, area.corner.y + y,
-                      static_cast<unsigned int>(client.width),
-                      static_cast<unsigned int>(client.height));
+    record->margins = {x, y, area.size.width - x - client.width,
+                       area.size.height - y - client.height};
+    layWindow(display, *record, area);
     if (topmost) {
         onceShown(window, &MapRequests::raise, XRaiseWindow);
         onceShown(window, &MapRequests::cover, requestCover);

@@ -21,14 +21,18 @@ struct WindowRecord {
     ::Window id = 0;       ///< The NativeWindow that the port hands out, and the GLX drawable.
     WindowFormat format{}; ///< With a null config where there is no GLX: default visual.
     Colormap colormap = 0;
-    POINT origin{};           ///< The desktop's top left corner on the root window.
+    POINT origin{};           ///< The place on the root window from which the pointer's counts: the
+                              ///< desktop's top left corner, until monitors change.
+    POINT pointer{};          ///< Its place in the last mouse message.
+    RECT margins{};           ///< Of the desktop, around the window, as the program placed it.
     desktop::Size client;     ///< As the server last reported.
     bool sizeIsToTell = true; ///< `client` is to be reported to the program.
     MapRequests requests;
-    bool shown = false;                              ///< Mapped.
-    bool pointerHidden = false;                      ///< While it is over the window.
-    bool iconic = false, hidden = false;             ///< Either means minimised.
-    bool obscured = false;                           ///< Wholly behind other windows.
+    bool shown = false;                  ///< Mapped.
+    bool pointerJumped = false;          ///< Monitors changed since the last mouse message.
+    bool pointerHidden = false;          ///< While it is over the window.
+    bool iconic = false, hidden = false; ///< Either means minimised.
+    bool obscured = false;               ///< Wholly behind other windows.
     std::chrono::steady_clock::time_point seenUntil; ///< Till then the server is not asked again.
     bool keyboardLost = false; ///< Another window took the focus; not asked for since.
     std::chrono::steady_clock::time_point keyboardAsked; ///< When it was asked for last.

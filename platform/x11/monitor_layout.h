@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/x11/desktop_area.h"
+#include "platform/x11/window_table.h"
+
+#include <X11/Xlib.h>
+
+/// How our windows lie on the monitors, which may be plugged in, unplugged and moved while we run.
+namespace platform::x11 {
+
+/// Moves and resizes the window so that its margins to the desktop's edges are those of its record.
+void layWindow(Display* display, WindowRecord& record, const DesktopArea& desktop);
+
+/// Selects the events that tell of changes; in a host's window none, since the host follows them.
+void watchMonitors(Display* display);
+
+/// Lays our windows anew if the event tells of a change; the jump that the pointer makes with it is
+/// no move of the user's. False for any other event.
+[[nodiscard]] bool followMonitors(const XEvent& event);
+
+} // namespace platform::x11
