@@ -18,7 +18,7 @@ ANYTHING = None
 ROOMS = [
     ("x11 ground", r"platform/x11/(connection_watch|display|glx_config|glx_extension|keys"
      r"|monitor_power|software_renderer|window_manager|xwayland)\.", [PORT_GROUND]),
-    ("x11 top", r"platform/x11/(events|host_window|message_dialog|monitor_layout|port)\.",
+    ("x11 top", r"platform/x11/(curtains|events|host_window|message_dialog|monitor_layout|port)\.",
      ["x11 records"] + X11_GROUND),
     ("x11 records", r"platform/x11/", X11_GROUND),
     ("windows calls", r"platform/windows/shell_calls\.", []),

@@ -1,6 +1,7 @@
 #include "platform/x11/events.h"
 
 #include "platform/x11/client_size.h"
+#include "platform/x11/curtains.h"
 #include "platform/x11/display.h"
 #include "platform/x11/host_window.h"
 #include "platform/x11/keys.h"
@@ -28,9 +29,9 @@ Message plainMessage(const WindowRecord& record, UINT kind, WPARAM wParam, LPARA
 }
 
 // For all event types with a pointer position, which have the same members for it. That on the root
-// window counts; our window's top left corner is the desktop's. Where monitors change, the server
-// moves the pointer: the first position after that becomes the one that was told last, so that no
-// way lies between them.
+// window holds for a curtain's events too; our window's top left corner is the desktop's. Where
+// monitors change, the server moves the pointer: the first position after that becomes the one that
+// was told last, so that no way lies between them.
 template <typename Event>
 Message pointerMessage(WindowRecord& record, UINT kind, const Event& event)
 {
@@ -144,15 +145,19 @@ bool onProperty(WindowRecord& record, const XEvent& event, Message& result)
         record.hidden = isHidden(event.xany.display, record.id);
     if (wasMinimised == isMinimised(record))
         return false;
+    layCurtains(event.xany.display, record);
     result = plainMessage(record, WM_ACTIVATE, activation(record, WA_ACTIVE), 0);
     return true;
 }
 
-// Only updates the record: reportSize makes the message.
+// Only updates the record: reportSize makes the message. A manager may have moved the window to
+// another monitor.
 bool onConfigure(WindowRecord& record, const XEvent& event, Message& /*result*/)
 {
-    if (record.shown || hosted()) // before it is mapped, a size may be an outdated one
-        updateClientSize(event.xany.display, record);
+    if (!record.shown && !hosted()) // before it is mapped, a size may be an outdated one
+        return false;
+    updateClientSize(event.xany.display, record);
+    layCurtains(event.xany.display, record);
     return false;
 }
 
@@ -204,7 +209,7 @@ bool translate(XEvent& event, Message& result)
         XRefreshKeyboardMapping(&event.xmapping);
     if (followHost(event) || followMonitors(event))
         return false;
-    WindowRecord* const record = findRecord(event.xany.window);
+    WindowRecord* const record = findRecord(windowBehind(event.xany.window));
     const auto translation =
         std::find_if(std::begin(translations), std::end(translations),
                      [&event](const Translation& entry) { return entry.eventType == event.type; });

@@ -1,5 +1,6 @@
 #include "platform/x11/monitor_layout.h"
 
+#include "platform/x11/curtains.h"
 #include "platform/x11/host_window.h"
 #include "platform/x11/window_manager.h"
 
@@ -62,6 +63,7 @@ bool followMonitors(const XEvent& event)
         record.pointerJumped = true;
         if (!managerRuns(display))
             layWindow(display, record, monitors(display).front());
+        layCurtains(display, record);
     }
     return true;
 }

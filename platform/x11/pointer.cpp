@@ -11,6 +11,16 @@ void setParentsCursor(Display* display, ::Window window)
     XUndefineCursor(display, window);
 }
 
+void setWhereHidden(Display* display, SetCursor setCursor)
+{
+    for (const WindowRecord& record : windowRecords())
+        if (record.id != 0 && record.pointerHidden)
+            setCursor(display, record.id);
+    XFlush(display);
+}
+
+} // namespace
+
 // The X protocol has no hidden pointer without an extension; a cursor whose mask has no pixel set
 // shows nothing.
 void setEmptyCursor(Display* display, ::Window window)
@@ -23,16 +33,6 @@ void setEmptyCursor(Display* display, ::Window window)
     XFreeCursor(display, empty); // the window keeps it
     XFreePixmap(display, shape);
 }
-
-void setWhereHidden(Display* display, SetCursor setCursor)
-{
-    for (const WindowRecord& record : windowRecords())
-        if (record.id != 0 && record.pointerHidden)
-            setCursor(display, record.id);
-    XFlush(display);
-}
-
-} // namespace
 
 void hidePointer(Display* display, WindowRecord& record, bool hidden)
 {

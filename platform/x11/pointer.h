@@ -5,6 +5,9 @@
 /// The visibility of the pointer over our windows. Elsewhere on the screen it is never hidden.
 namespace platform::x11 {
 
+/// Gives the window a cursor that shows nothing.
+void setEmptyCursor(Display* display, ::Window window);
+
 /// Hides the pointer while it is over the window, or shows it again.
 void hidePointer(Display* display, WindowRecord& record, bool hidden);
 

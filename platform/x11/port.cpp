@@ -2,6 +2,7 @@
 #include "platform/x11/client_size.h"
 #include "platform/x11/connection_watch.h"
 #include "platform/x11/contexts.h"
+#include "platform/x11/curtains.h"
 #include "platform/x11/desktop_area.h"
 #include "platform/x11/display.h"
 #include "platform/x11/events.h"
@@ -69,6 +70,7 @@ void onceShown(::Window window, bool MapRequests::*request, Action action)
 void putOnScreen(Display* display, WindowRecord& record)
 {
     watchMonitors(display);
+    layCurtains(display, record);
     record.shown = true;
     mapWindow(display, record.id);
     if (record.requests.raise)
@@ -122,6 +124,7 @@ void disconnect()
 {
     if (connection() != nullptr) {
         setRunningFlag(connection(), false);
+        liftCurtains(connection());
         forgetContexts();
     }
     forgetWindows();
@@ -158,6 +161,7 @@ bool destroyWindow(NativeWindow window)
     WindowRecord* const record = findRecord(window);
     if (record == nullptr)
         return false;
+    liftCurtains(connection());
     removeWindow(connection(), *record);
     return true;
 }

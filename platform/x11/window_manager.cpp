@@ -129,6 +129,15 @@ void describeWindow(Display* display, ::Window window, const char* title)
     keepOpaque(display, window);
 }
 
+void describeCurtain(Display* display, ::Window window)
+{
+    keepOpaque(display, window);
+    // A compositor that takes out a window which covers a monitor may cease to draw the others:
+    // xfwm4 then shows no frame of the saver's.
+    constexpr unsigned long composited = 2;
+    writeProperty<1>(display, window, AtomName::netWmBypassCompositor, XA_CARDINAL, {composited});
+}
+
 void requestCover(Display* display, ::Window window)
 {
     // An action, up to two states, and the source of the request.

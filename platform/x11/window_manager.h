@@ -18,6 +18,10 @@ void keepOpaque(Display* display, ::Window window);
 /// screen above all other windows.
 void describeWindow(Display* display, ::Window window, const char* title);
 
+/// Sets the properties of a window that no manager handles, and that covers a monitor beside a
+/// window of the former kind.
+void describeCurtain(Display* display, ::Window window);
+
 /// Requests for a mapped window that it covers the screen above all others.
 void requestCover(Display* display, ::Window window);
 

@@ -1,0 +1,135 @@
+#include "platform/x11/curtains.h"
+
+#include "platform/x11/desktop_area.h"
+#include "platform/x11/host_window.h"
+#include "platform/x11/pointer.h"
+#include "platform/x11/window_manager.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace platform::x11 {
+
+namespace {
+
+struct Curtain {
+    ::Window id = 0;
+    DesktopArea monitor;
+};
+
+constinit std::vector<Curtain> curtains;
+constinit ::Window saversWindow = 0;
+
+bool overlap(const DesktopArea& a, const DesktopArea& b)
+{
+    return a.corner.x < b.corner.x + b.size.width && b.corner.x < a.corner.x + a.size.width &&
+           a.corner.y < b.corner.y + b.size.height && b.corner.y < a.corner.y + a.size.height;
+}
+
+bool hangsOn(const Curtain& curtain, const DesktopArea& monitor)
+{
+    return curtain.monitor.corner.x == monitor.corner.x &&
+           curtain.monitor.corner.y == monitor.corner.y && curtain.monitor.size == monitor.size;
+}
+
+// The window's middle: a manager may let its edges reach over to other monitors.
+DesktopArea middleOf(Display* display, const WindowRecord& window)
+{
+    int x = 0, y = 0;
+    ::Window child = 0;
+    XTranslateCoordinates(display, window.id, DefaultRootWindow(display), window.client.width / 2,
+                          window.client.height / 2, &x, &y, &child);
+    return {DefaultRootWindow(display), {x, y}, {1, 1}};
+}
+
+std::vector<DesktopArea> bareMonitors(Display* display, const WindowRecord& saver)
+{
+    if (hosted() || saver.iconic || saver.hidden)
+        return {};
+    std::vector<DesktopArea> bare = monitors(display);
+    const DesktopArea middle = middleOf(display, saver);
+    const auto home = std::find_if(bare.begin(), bare.end(), [&](const DesktopArea& monitor) {
+        return overlap(monitor, middle);
+    });
+    // A window that is on no monitor is on its way to the primary one.
+    const DesktopArea covered = home == bare.end() ? bare.front() : *home;
+    std::erase_if(bare, [&](const DesktopArea& monitor) { return overlap(monitor, covered); });
+    return bare;
+}
+
+// The child of the root window that the window is in: its frame, where a manager has made one.
+::Window frameOf(Display* display, ::Window window)
+{
+    ::Window root = 0, parent = window, *children = nullptr;
+    unsigned int count = 0;
+    do {
+        window = parent;
+        if (XQueryTree(display, window, &root, &parent, &children, &count) == 0)
+            return 0;
+        XFree(children);
+    } while (parent != root);
+    return window;
+}
+
+::Window hang(Display* display, const DesktopArea& monitor)
+{
+    XSetWindowAttributes attributes{};
+    attributes.override_redirect = True;
+    attributes.background_pixel = BlackPixel(display, DefaultScreen(display));
+    attributes.event_mask = KeyPressMask | KeyReleaseMask | ButtonPressMask | ButtonReleaseMask |
+                            PointerMotionMask | EnterWindowMask;
+    const ::Window curtain = XCreateWindow(
+        display, monitor.parent, monitor.corner.x, monitor.corner.y,
+        static_cast<unsigned int>(monitor.size.width),
+        static_cast<unsigned int>(monitor.size.height), 0, CopyFromParent, InputOutput, nullptr,
+        CWOverrideRedirect | CWBackPixel | CWEventMask, &attributes);
+    setEmptyCursor(display, curtain);
+    describeCurtain(display, curtain);
+    return curtain;
+}
+
+// Just above the saver's window: above panels, and below what lockers have put above the saver.
+void stackAbove(Display* display, ::Window curtain, ::Window sibling)
+{
+    XWindowChanges place{};
+    place.sibling = sibling;
+    place.stack_mode = Above;
+    XConfigureWindow(display, curtain, CWSibling | CWStackMode, &place);
+}
+
+} // namespace
+
+void layCurtains(Display* display, const WindowRecord& saver)
+{
+    const std::vector<DesktopArea> bare = bareMonitors(display, saver);
+    if (std::equal(curtains.begin(), curtains.end(), bare.begin(), bare.end(), hangsOn))
+        return;
+    liftCurtains(display);
+    saversWindow = saver.id;
+    const ::Window frame = frameOf(display, saver.id);
+    for (const DesktopArea& monitor : bare) {
+        const ::Window curtain = curtains.emplace_back(hang(display, monitor), monitor).id;
+        if (saver.shown)
+            stackAbove(display, curtain, frame);
+        XMapWindow(display, curtain);
+    }
+    XFlush(display);
+}
+
+void liftCurtains(Display* display)
+{
+    for (const Curtain& curtain : curtains)
+        XDestroyWindow(display, curtain.id);
+    curtains.clear();
+    XFlush(display);
+}
+
+::Window windowBehind(::Window window)
+{
+    const bool isCurtain =
+        std::any_of(curtains.begin(), curtains.end(),
+                    [window](const Curtain& curtain) { return curtain.id == window; });
+    return isCurtain ? saversWindow : window;
+}
+
+} // namespace platform::x11

@@ -1,0 +1,86 @@
+#include <gtest/gtest.h> // before Xlib, which makes a macro of a name of its
+
+#include "tests/programs/program.h"
+#include "tests/support/user.h"
+#include "tests/support/virtual_display.h"
+
+#include <X11/extensions/Xrandr.h>
+
+namespace {
+
+constexpr int leftWidth = 600; // of the primary monitor
+
+// A screen of two monitors, side by side; where the desktop is bare, it is white.
+class Monitors : public testing::Test {
+protected:
+    Monitors()
+    {
+        XSetWindowBackground(server, root, 0xFFFFFF);
+        XClearWindow(server, root);
+        XRRScreenResources* const resources = XRRGetScreenResourcesCurrent(server, root);
+        define("left", 0, leftWidth, resources->outputs); // in place of the output's own
+        define("right", leftWidth, 1024 - leftWidth, nullptr);
+        XRRFreeScreenResources(resources);
+        user.moveTo(700, 100);
+    }
+
+    void define(const char* name, int x, int width, RROutput* output)
+    {
+        const Atom atom = XInternAtom(server, name, False);
+        const int outputs = output != nullptr;
+        XRRMonitorInfo monitor{atom, outputs, False, outputs, x, 0, width, 768, 0, 0, output};
+        XRRDeleteMonitor(server, root, atom);
+        XRRSetMonitor(server, root, &monitor);
+        XSync(server, False);
+    }
+
+    /// Waits for the saver's picture; the curtain's left edge, 0 where there is none.
+    int curtain() const
+    {
+        EXPECT_TRUE(User::waitUntil([&] { return user.look().brightness(10, 10) < 255; }));
+        int edge = 0;
+        for (const Window window : user.mappedWindows())
+            edge = std::max(edge, user.attributesOf(window).x);
+        return edge;
+    }
+
+    /// Of the brightest pixel of the right monitor; looks at every fourth one.
+    int brightness() const
+    {
+        const User::Picture picture = user.look();
+        int brightest = 0;
+        for (int y = 0; y < 768; y += 2)
+            for (int x = leftWidth; x < 1024; x += 2)
+                brightest = std::max(brightest, picture.brightness(x, y));
+        return brightest;
+    }
+
+    VirtualDisplay display{"1024x768x24"};
+    User user;
+    Display* const server = user.connection();
+    const Window root = DefaultRootWindow(server);
+};
+
+TEST_F(Monitors, AreAllCoveredAndAllUsersInputOnThemCounts)
+{
+    ChildProcess saver = quazo({"/s"});
+    EXPECT_EQ(curtain(), leftWidth);
+    EXPECT_EQ(brightness(), 0);
+    // With a change the server moves the pointer: that is not the user's move.
+    XGrabServer(server);
+    define("right", leftWidth + 100, 324, nullptr);
+    user.moveTo(900, 600);
+    XUngrabServer(server);
+    EXPECT_TRUE(User::waitUntil([&] { return curtain() == leftWidth + 100; }));
+    user.moveTo(900, 700); // 100 pixels
+    EXPECT_EQ(saver.wait(std::chrono::milliseconds(500)), std::nullopt);
+    user.moveTo(901, 700);
+    EXPECT_EQ(saver.wait(), 0);
+    EXPECT_TRUE(user.mappedWindows().empty());
+    ChildProcess another = quazo({"/s"});
+    EXPECT_NE(curtain(), 0);
+    user.click(3);
+    EXPECT_EQ(another.wait(), 0);
+}
+
+} // namespace
