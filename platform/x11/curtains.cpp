@@ -2,10 +2,13 @@
 
 #include "platform/x11/desktop_area.h"
 #include "platform/x11/host_window.h"
+#include "platform/x11/hosted_copy.h"
 #include "platform/x11/pointer.h"
+#include "platform/x11/software_renderer.h"
 #include "platform/x11/window_manager.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace platform::x11 {
@@ -15,6 +18,7 @@ namespace {
 struct Curtain {
     ::Window id = 0;
     DesktopArea monitor;
+    bool pictured = false; ///< Its picture was started, if it is to have one.
 };
 
 constinit std::vector<Curtain> curtains;
@@ -108,12 +112,24 @@ void layCurtains(Display* display, const WindowRecord& saver)
     saversWindow = saver.id;
     const ::Window frame = frameOf(display, saver.id);
     for (const DesktopArea& monitor : bare) {
-        const ::Window curtain = curtains.emplace_back(hang(display, monitor), monitor).id;
+        const ::Window curtain = hang(display, monitor);
+        curtains.push_back({curtain, monitor, false});
         if (saver.shown)
             stackAbove(display, curtain, frame);
         XMapWindow(display, curtain);
     }
     XFlush(display);
+}
+
+// The server has to know a window before the copy asks for it over a connection of its own.
+void startPictures(Display* display)
+{
+    for (Curtain& curtain : curtains) {
+        if (std::exchange(curtain.pictured, true) || drawsInSoftware(display))
+            continue;
+        XSync(display, False);
+        startCopyIn(curtain.id);
+    }
 }
 
 void liftCurtains(Display* display)

@@ -14,6 +14,10 @@ namespace platform::x11 {
 /// or in a host's window. Asks the server.
 void layCurtains(Display* display, const WindowRecord& saver);
 
+/// Starts a picture of its own on each new curtain; where the current context draws in software,
+/// curtains stay black.
+void startPictures(Display* display);
+
 /// Lifts all curtains.
 void liftCurtains(Display* display);
 

@@ -264,6 +264,7 @@ bool swapBuffers(NativeWindow window)
     if (record->requests.show && !record->shown)
         putOnScreen(connection(), *record);
     presentFrame(connection(), *record);
+    startPictures(connection());
     return true;
 }
 

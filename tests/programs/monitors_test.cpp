@@ -6,6 +6,14 @@
 
 #include <X11/extensions/Xrandr.h>
 
+#include <algorithm>
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace {
 
 constexpr int leftWidth = 600; // of the primary monitor
@@ -44,15 +52,23 @@ protected:
         return edge;
     }
 
-    /// Of the brightest pixel of the right monitor; looks at every fourth one.
-    int brightness() const
+    /// Of the darkest and the brightest pixel of the right monitor; looks at every fourth one.
+    std::pair<int, int> brightness() const
     {
         const User::Picture picture = user.look();
-        int brightest = 0;
+        int darkest = 255, brightest = 0;
         for (int y = 0; y < 768; y += 2)
-            for (int x = leftWidth; x < 1024; x += 2)
+            for (int x = leftWidth; x < 1024; x += 2) {
+                darkest = std::min(darkest, picture.brightness(x, y));
                 brightest = std::max(brightest, picture.brightness(x, y));
-        return brightest;
+            }
+        return {darkest, brightest};
+    }
+
+    bool showsAPicture() const
+    {
+        const auto [darkest, brightest] = brightness();
+        return darkest < 40 && brightest > 40;
     }
 
     VirtualDisplay display{"1024x768x24"};
@@ -65,7 +81,7 @@ TEST_F(Monitors, AreAllCoveredAndAllUsersInputOnThemCounts)
 {
     ChildProcess saver = quazo({"/s"});
     EXPECT_EQ(curtain(), leftWidth);
-    EXPECT_EQ(brightness(), 0);
+    EXPECT_EQ(brightness(), std::pair(0, 0));
     // With a change the server moves the pointer: that is not the user's move.
     XGrabServer(server);
     define("right", leftWidth + 100, 324, nullptr);
@@ -81,6 +97,36 @@ TEST_F(Monitors, AreAllCoveredAndAllUsersInputOnThemCounts)
     EXPECT_NE(curtain(), 0);
     user.click(3);
     EXPECT_EQ(another.wait(), 0);
+}
+
+/// Whether a copy of the saver runs that was told to draw in one of these windows.
+bool copyRuns(const std::vector<Window>& windows)
+{
+    for (const auto& process : std::filesystem::directory_iterator("/proc")) {
+        std::ifstream file(process.path() / "cmdline");
+        std::string line;
+        std::getline(file, line);
+        for (const Window window : windows)
+            if (line.ends_with("--window-id" + ('\0' + std::to_string(window)) + '\0'))
+                return true;
+    }
+    return false;
+}
+
+TEST_F(Monitors, HavePicturesOfTheirOwnThatEndWithTheSaver)
+{
+    for (const int signal : {SIGTERM, SIGKILL}) {
+        ChildProcess saver({QUAZO_ON_HARDWARE, "/s"});
+        EXPECT_EQ(curtain(), leftWidth);
+        EXPECT_TRUE(User::waitUntil([&] { return showsAPicture(); }));
+        const std::vector<Window> windows = user.mappedWindows();
+        EXPECT_EQ(windows.size(), 2u); // a copy lays no curtains
+        EXPECT_TRUE(copyRuns(windows));
+        saver.signal(signal);
+        saver.wait();
+        EXPECT_TRUE(User::waitUntil([&] { return !copyRuns(windows); }));
+        EXPECT_EQ(saver.standardError(), "");
+    }
 }
 
 } // namespace
