@@ -32,7 +32,7 @@ struct Message {
     WPARAM wParam = 0; ///< For WM_ACTIVATE: the high word is 1 while the window is minimised.
     LPARAM lParam = 0;
     POINT pointer{}; ///< For a mouse message: the pointer's position on the desktop.
-    Size client{};   ///< For WM_SIZE: the client area's size, which is not in `lParam`.
+    Size client{};   ///< For WM_SIZE: the size to tell (`toldSize`), which is not in `lParam`.
 };
 
 /// Finds out whether the program was started by a host, to draw in one of its windows. The window's
@@ -70,6 +70,10 @@ void showWindow(NativeWindow window);
 void raiseWindow(NativeWindow window);
 void focusWindow(NativeWindow window);
 [[nodiscard]] bool placeWindow(NativeWindow window, int x, int y, Size client, bool topmost);
+
+/// What the program is told of a client area of this size: it, or that of a smaller picture, which
+/// the port enlarges to the window.
+[[nodiscard]] Size toldSize(Size client);
 
 /// Shows or hides the pointer while it is over the window.
 void showPointer(NativeWindow window, bool visible);

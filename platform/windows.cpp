@@ -119,6 +119,6 @@ BOOL SetWindowPos(HWND window, HWND insertAfter, int x, int y, int width, int he
     const desktop::Size client{width, height};
     if (native == 0 || !desktop::placeWindow(native, x, y, client, insertAfter == HWND_TOPMOST))
         return FALSE;
-    tellSize(window, client);
+    tellSize(window, desktop::toldSize(client));
     return TRUE;
 }

@@ -16,8 +16,9 @@ ANYTHING = None
 # Each room: its name, its files, and the rooms that it may include besides itself. The first match
 # counts. A port is a folder under platform/, and includes of platform/ only the ground.
 ROOMS = [
-    ("x11 ground", r"platform/x11/(connection_watch|display|glx_config|glx_extension|keys"
-     r"|monitor_power|software_renderer|window_manager|xwayland)\.", [PORT_GROUND]),
+    ("x11 ground", r"platform/x11/(connection_watch|display|enlargement|glx_config|glx_extension"
+     r"|keys|monitor_power|render_scale|server_image|software_renderer|window_manager|xwayland)\.",
+     [PORT_GROUND]),
     ("x11 top", r"platform/x11/(curtains|events|host_window|message_dialog|monitor_layout|port)\.",
      ["x11 records"] + X11_GROUND),
     ("x11 records", r"platform/x11/", X11_GROUND),

@@ -3,7 +3,7 @@
 
 build_packages="cmake ninja-build g++ pkg-config libsdl1.2-dev libsdl-image1.2-dev
     libfltk1.3-dev|libfltk1.4-dev libgl-dev libglu1-mesa-dev libx11-dev libxext-dev libxrandr-dev
-    libpng-dev"
+    libxrender-dev libpng-dev"
 run_packages="libgl1-mesa-dri"
 virtual_display_packages="xvfb scrot"
 fuzz_packages="clang libclang-rt-dev"

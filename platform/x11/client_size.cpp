@@ -2,6 +2,7 @@
 
 #include "platform/x11/contexts.h"
 #include "platform/x11/desktop_area.h"
+#include "platform/x11/render_scale.h"
 
 namespace platform::x11 {
 
@@ -9,9 +10,10 @@ void setClientSize(WindowRecord& record, desktop::Size size)
 {
     if (size == record.client)
         return;
+    const double zoom = static_cast<double>(renderScale(record.client)) / renderScale(size);
     record.client = size;
     record.sizeIsToTell = true;
-    fitBackBuffer(record);
+    fitBackBuffer(record, zoom);
 }
 
 void updateClientSize(Display* display, WindowRecord& record)

@@ -2,9 +2,12 @@
 
 #include "platform/back_buffer.h"
 #include "platform/x11/display.h"
+#include "platform/x11/enlargement.h"
+#include "platform/x11/render_scale.h"
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace platform::x11 {
@@ -15,26 +18,41 @@ struct Context {
     GLXContext handle = nullptr;
     desktop::NativeWindow window = 0; // where it was current last; 0 before the first time
     BackBuffer backBuffer;
+    std::optional<Enlargement> enlargement; // where the picture is smaller than the window
 };
 
 constinit std::vector<std::unique_ptr<Context>> contexts;
 constinit Context* current = nullptr;
 
-// Creates the framebuffer of a context that becomes current for the first time; resizes that of any
-// other.
-void prepareBackBuffer(Context& context, const WindowRecord& window)
+// In order of preference; where nothing is supported, the program draws on the window's own back
+// buffer. With 8 bits a channel fading stops at a dim grey. A window whose swaps copy has 8 bits
+// and keeps its contents without a blit, so it precedes a framebuffer object of 8 bits.
+void createBackBuffer(BackBuffer& buffer, const WindowRecord& window)
 {
-    const desktop::Size size = window.client;
-    if (context.window != 0) {
-        context.backBuffer.fit(size);
-        return;
-    }
-    // In order of preference; where nothing is supported, the program draws on the window's own
-    // back buffer. With 8 bits a channel fading stops at a dim grey. A window whose swaps copy has
-    // 8 bits and keeps its contents without a blit, so it precedes a framebuffer object of 8 bits.
     [[maybe_unused]] const bool kept =
-        context.backBuffer.create(size, GL_RGB16) || context.backBuffer.create(size, GL_RGBA16) ||
-        window.format.swapCopies || context.backBuffer.create(size, GL_RGBA8);
+        buffer.create(window.client, GL_RGB16) || buffer.create(window.client, GL_RGBA16) ||
+        window.format.swapCopies || buffer.create(window.client, GL_RGBA8);
+}
+
+// Fits the framebuffer to the window, and what enlarges it to the framebuffer.
+void fitTo(const WindowRecord& window, Context& context, double zoom)
+{
+    context.backBuffer.fit(pictureSize(window.client), zoom);
+    context.enlargement.reset();
+    if (renderScale(window.client) > 1)
+        context.enlargement.emplace(connection(), window.id, window.format.visual,
+                                    context.backBuffer.size());
+}
+
+// For a context that becomes current for the first time. Only a framebuffer of ours can be smaller
+// than the window.
+void prepareBackBuffer(Context& context, WindowRecord& window)
+{
+    Display* const display = connection();
+    createBackBuffer(context.backBuffer, window);
+    chooseScaling(display, context.backBuffer.size() == window.client &&
+                               Enlargement::isOffered(display, window.format.visual));
+    window.sizeIsToTell = true;
 }
 
 bool isCurrentOn(const WindowRecord& window)
@@ -62,7 +80,7 @@ desktop::NativeContext addContext(const WindowRecord& window)
     return contexts.emplace_back(std::move(context)).get();
 }
 
-bool selectContext(desktop::NativeContext context, const WindowRecord& window)
+bool selectContext(desktop::NativeContext context, WindowRecord& window)
 {
     Display* const display = connection();
     auto& wanted = *static_cast<Context*>(context);
@@ -70,7 +88,9 @@ bool selectContext(desktop::NativeContext context, const WindowRecord& window)
     if (glXMakeCurrent(display, window.id, wanted.handle) == False || trap.firstError() != 0)
         return false;
     current = &wanted;
-    prepareBackBuffer(wanted, window);
+    if (wanted.window == 0)
+        prepareBackBuffer(wanted, window);
+    fitTo(window, wanted, 1.0);
     wanted.window = window.id;
     return true;
 }
@@ -110,18 +130,30 @@ void forgetContexts()
     contexts.clear();
 }
 
-void fitBackBuffer(const WindowRecord& window)
+void fitBackBuffer(const WindowRecord& window, double zoom)
 {
     if (isCurrentOn(window))
-        current->backBuffer.fit(window.client);
+        fitTo(window, *current, zoom);
 }
 
-void presentBackBuffer(const WindowRecord& window)
+// The flush lets the driver draw while we wait for the server or for the frame's time.
+void takeFrame(const WindowRecord& window)
 {
     if (!isCurrentOn(window))
         return;
-    current->backBuffer.present();
-    glFlush(); // the driver can draw while we wait
+    if (!current->enlargement)
+        current->backBuffer.present();
+    glFlush();
+    if (current->enlargement)
+        current->backBuffer.read(current->enlargement->pixels());
+}
+
+void showFrame(const WindowRecord& window)
+{
+    if (isCurrentOn(window) && current->enlargement)
+        current->enlargement->show(window.client);
+    else
+        glXSwapBuffers(connection(), window.id);
 }
 
 } // namespace platform::x11

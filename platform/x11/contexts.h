@@ -10,8 +10,9 @@ namespace platform::x11 {
 /// fails.
 [[nodiscard]] desktop::NativeContext addContext(const WindowRecord& window);
 
-/// Makes the context current on the window, with its framebuffer bound.
-[[nodiscard]] bool selectContext(desktop::NativeContext context, const WindowRecord& window);
+/// Makes the context current on the window, with its framebuffer bound. The first time it decides
+/// on the render scale, and the size that the program is told of the window may become another.
+[[nodiscard]] bool selectContext(desktop::NativeContext context, WindowRecord& window);
 
 [[nodiscard]] bool anyContextIsCurrent();
 
@@ -24,10 +25,14 @@ bool leaveContext();
 /// Makes no context current and deletes them all, when the connection is about to be closed.
 void forgetContexts();
 
-/// Resizes the framebuffer of the window to the client size, if the current context draws on it.
-void fitBackBuffer(const WindowRecord& window);
+/// Resizes the framebuffer of the window to the picture for the client size, if the current context
+/// draws on it; the contents are enlarged by `zoom`.
+void fitBackBuffer(const WindowRecord& window, double zoom);
 
-/// Blits that framebuffer to the window's back buffer.
-void presentBackBuffer(const WindowRecord& window);
+/// Takes a frame out of that framebuffer: to the window's back buffer, or to be enlarged.
+void takeFrame(const WindowRecord& window);
+
+/// Shows the frame that was taken on the window.
+void showFrame(const WindowRecord& window);
 
 } // namespace platform::x11

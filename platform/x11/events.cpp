@@ -6,6 +6,7 @@
 #include "platform/x11/host_window.h"
 #include "platform/x11/keys.h"
 #include "platform/x11/monitor_layout.h"
+#include "platform/x11/render_scale.h"
 #include "platform/x11/window_manager.h"
 #include "platform/x11/window_table.h"
 #include "platform/x11/xwayland.h"
@@ -229,7 +230,7 @@ bool reportSize(Message& result)
         return false;
     resized->sizeIsToTell = false;
     result = plainMessage(*resized, WM_SIZE, SIZE_RESTORED, 0);
-    result.client = resized->client;
+    result.client = pictureSize(resized->client);
     return true;
 }
 

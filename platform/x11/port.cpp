@@ -11,6 +11,7 @@
 #include "platform/x11/monitor_layout.h"
 #include "platform/x11/pointer.h"
 #include "platform/x11/presentation.h"
+#include "platform/x11/render_scale.h"
 #include "platform/x11/running_flag.h"
 #include "platform/x11/window_manager.h"
 #include "platform/x11/window_table.h"
@@ -209,6 +210,11 @@ bool placeWindow(NativeWindow window, int x, int y, Size client, bool topmost)
     return true;
 }
 
+Size toldSize(Size client)
+{
+    return pictureSize(client);
+}
+
 void showPointer(NativeWindow window, bool visible)
 {
     WindowRecord* const record = findRecord(window);
@@ -242,7 +248,7 @@ bool makeCurrent(NativeWindow window, NativeContext context)
 {
     if (context == nullptr)
         return leaveContext();
-    const WindowRecord* const record = findRecord(window);
+    WindowRecord* const record = findRecord(window);
     if (record == nullptr || !selectContext(context, *record)) {
         endIfHosted("the OpenGL context cannot be used");
         return false;

@@ -30,12 +30,12 @@ void presentFrame(Display* display, WindowRecord& record)
 {
     const bool seen = isSeen(display, record);
     if (seen)
-        presentBackBuffer(record);
+        takeFrame(record);
     else
         rest(display);
     frameClock.awaitNextFrame();
     if (seen)
-        glXSwapBuffers(display, record.id);
+        showFrame(record);
 }
 
 } // namespace platform::x11

@@ -75,7 +75,8 @@ TEST_F(Hosts, HaveTheirWindowFilledUntilTheyAskForTheEnd)
 {
     const Window left = hostWindow(0);
     const Window right = hostWindow(500);
-    ChildProcess byEnvironment = quazo({"/s"}, {{"XSCREENSAVER_WINDOW", hexadecimal(left)}});
+    ChildProcess byEnvironment =
+        quazo({"/s"}, {{"XSCREENSAVER_WINDOW", hexadecimal(left)}, {"QUAZO_RENDER_SCALE", "3"}});
     ChildProcess byArgument = quazo({"/s", "--window-id", std::to_string(right)});
     ASSERT_TRUE(User::waitUntil([&] { return isFilled(left) && isFilled(right); }));
     ASSERT_TRUE(User::waitUntil([&] { return isLit(0, 400) && isLit(500, 900); }));

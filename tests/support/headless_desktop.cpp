@@ -130,6 +130,11 @@ bool nextMessage(Message& result)
     return result.message != 0;
 }
 
+Size toldSize(Size client)
+{
+    return client;
+}
+
 NativeWindow createWindow(const char* title, int x, int y, Size client)
 {
     if (!request("createWindow", std::quoted(title), x, y, client.width, client.height))

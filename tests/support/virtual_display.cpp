@@ -15,6 +15,7 @@ VirtualDisplay::VirtualDisplay(const char* screen)
         throw std::runtime_error("no virtual display: " + server.standardError());
     const std::string number = server.standardOutput();
     setenv("DISPLAY", (":" + number.substr(0, number.size() - 1)).c_str(), 1);
+    setenv("QUAZO_RENDER_SCALE", "1", 0);
 }
 
 VirtualDisplay::~VirtualDisplay()

@@ -2,7 +2,8 @@
 
 #include "tests/support/child_process.h"
 
-/// An X server without a real screen, which `DISPLAY` names from here on. Throws
+/// An X server without a real screen, which `DISPLAY` names from here on. On it the saver draws
+/// every pixel, at render scale 1, unless a test sets QUAZO_RENDER_SCALE to another. Throws
 /// `std::runtime_error` when it does not start.
 class VirtualDisplay {
 public:

@@ -10,10 +10,11 @@ using namespace platform::desktop;
 namespace {
 
 unsigned short monitorPower = 0; // DPMSModeOn
+Bool sharedMemory = True;
 
 } // namespace
 
-// Linked in place of the library's: virtual servers do not have the extension.
+// Linked in place of the libraries': virtual servers have no DPMS, and always shared memory.
 extern "C" int DPMSQueryExtension(Display* /*display*/, int* /*event*/, int* /*error*/)
 {
     return True;
@@ -23,6 +24,11 @@ extern "C" Status DPMSInfo(Display* /*display*/, unsigned short* level, unsigned
 {
     *level = monitorPower;
     return True;
+}
+
+extern "C" Bool XShmQueryExtension(Display* /*display*/)
+{
+    return sharedMemory;
 }
 
 using Port = DesktopFixture;
@@ -97,4 +103,41 @@ TEST_F(Port, TakesTheKeyboardBackFromWindowsThatAppear)
         EXPECT_EQ(next(WM_ACTIVATE).wParam, WA_INACTIVE);
         EXPECT_EQ(next(WM_ACTIVATE).wParam, WA_ACTIVE);
     }
+}
+
+TEST_F(Port, EnlargesASmallerPictureToTheWindowAtRenderScale2)
+{
+    setenv("QUAZO_RENDER_SCALE", "2", 1);
+    for (const Bool shared : {True, False}) {
+        sharedMemory = shared;
+        const NativeWindow window = open();
+        EXPECT_EQ(next(WM_SIZE).client, (Size{400, 300}));
+        EXPECT_TRUE(placeWindow(window, 0, 0, {1023, 767}, true));
+        EXPECT_EQ(next(WM_SIZE).client, (Size{512, 384}));
+        EXPECT_EQ(toldSize({1023, 767}), (Size{512, 384}));
+        glViewport(0, 0, 512, 384);
+        glColor3f(1.0f, 1.0f, 1.0f);
+        glRecti(-1, -1, 0, 0); // the lower left quarter
+        EXPECT_TRUE(swapBuffers(window));
+        const auto expectQuarter = [&](int width, int height, int bottom) {
+            const User::Picture picture = user.look();
+            for (const int x : {0, width / 2 - 3, width / 2 + 3, 1020})
+                for (const int y :
+                     {0, bottom - height / 2 - 3, bottom - height / 2 + 3, bottom - 1})
+                    EXPECT_EQ(picture.brightness(x, y),
+                              x < width / 2 && y > bottom - height / 2 ? 255 : 0)
+                        << x << " " << y;
+            EXPECT_EQ(picture.brightness(0, bottom), 0); // the row under the window
+        };
+        expectQuarter(1023, 767, 767);
+        // The picture stays at the lower left when the window becomes smaller.
+        EXPECT_TRUE(placeWindow(window, 0, 0, {600, 500}, false));
+        EXPECT_TRUE(swapBuffers(window));
+        expectQuarter(1024, 768, 500);
+        user.moveTo(11, 13);
+        EXPECT_TRUE(User::waitUntil([] { return next(WM_MOUSEMOVE).pointer.y == 13; })); // unscaled
+        EXPECT_TRUE(destroyWindow(window));
+    }
+    sharedMemory = True;
+    setenv("QUAZO_RENDER_SCALE", "1", 1);
 }
