@@ -158,7 +158,7 @@ bool onConfigure(WindowRecord& record, const XEvent& event, Message& /*result*/)
     if (!record.shown && !hosted()) // before it is mapped, a size may be an outdated one
         return false;
     updateClientSize(event.xany.display, record);
-    layCurtains(event.xany.display, record);
+    adaptToMonitor(event.xany.display, record);
     return false;
 }
 

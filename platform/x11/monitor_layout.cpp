@@ -2,6 +2,7 @@
 
 #include "platform/x11/curtains.h"
 #include "platform/x11/host_window.h"
+#include "platform/x11/presentation.h"
 #include "platform/x11/window_manager.h"
 
 #include <X11/extensions/Xrandr.h>
@@ -51,6 +52,12 @@ void watchMonitors(Display* display)
         XRRSelectInput(display, root, RRScreenChangeNotifyMask);
 }
 
+void adaptToMonitor(Display* display, const WindowRecord& record)
+{
+    setPace(display, record.id, areaOf(display, record.id));
+    layCurtains(display, record);
+}
+
 // A manager lays the windows that it handles itself, and tells of it by a ConfigureNotify.
 bool followMonitors(const XEvent& event)
 {
@@ -63,7 +70,7 @@ bool followMonitors(const XEvent& event)
         record.pointerJumped = true;
         if (!managerRuns(display))
             layWindow(display, record, monitors(display).front());
-        layCurtains(display, record);
+        adaptToMonitor(display, record);
     }
     return true;
 }

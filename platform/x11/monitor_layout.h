@@ -14,6 +14,10 @@ void layWindow(Display* display, WindowRecord& record, const DesktopArea& deskto
 /// Selects the events that tell of changes; in a host's window none, since the host follows them.
 void watchMonitors(Display* display);
 
+/// To be called when a window of ours may lie on another monitor, or that has another refresh rate:
+/// sets the pace of the frames and lays the curtains. A context has to be current on the window.
+void adaptToMonitor(Display* display, const WindowRecord& record);
+
 /// Lays our windows anew if the event tells of a change; the jump that the pointer makes with it is
 /// no move of the user's. False for any other event.
 [[nodiscard]] bool followMonitors(const XEvent& event);
