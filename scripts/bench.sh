@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # scripts/bench.sh [REPETITIONS]: runs every benchmark of the release build, and prints one table of
-# medians, then the ratios that count. At least 2 repetitions; 5 without a number.
+# medians, then the ratios that count, then the pace at the sizes of screens. At least 2 repetitions; 5
+# without a number.
 # scripts/bench.sh --against REVISION [FILTER [ROUNDS]]: builds another revision in a work tree of its
 # own, runs the benchmarks that FILTER (a regular expression) matches in both, turn by turn, 15 rounds
 # without a number, and prints how their times compare.
@@ -75,3 +76,10 @@ for name in $programs; do
         --benchmark_enable_random_interleaving=true --benchmark_report_aggregates_only=true
 done
 scripts/bench_table.py "$results"/{surface,sending,swap,saver}.json
+echo
+for screen in "640 360 120" "1280 720 120" "1920 1080 60" "3840 2160 20"; do
+    for scale in 1 ""; do # every pixel, and as the saver chooses
+        echo "$screen, scale ${scale:-chosen}:" \
+            "$(QUAZO_RENDER_SCALE=$scale build/release/bench/pace_bench $screen | tail -n 1)"
+    done
+done
