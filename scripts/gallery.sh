@@ -32,7 +32,7 @@ take()
 
 start_saver()
 {
-    build/release/quazo /s >/dev/null &
+    QUAZO_RENDER_SCALE=1 build/release/quazo /s >/dev/null & # every pixel
     saver=$!
 }
 
