@@ -83,6 +83,7 @@ int main(int argumentCount, char** arguments)
 {
     benchmark::Initialize(&argumentCount, arguments);
     setenv("QUAZO_WINDOWS_DIRECTORY", QUAZO_BENCH_DATA, 0);
+    setenv("QUAZO_RENDER_SCALE", "1", 1); // every pixel, as the window's back buffer has
     const VirtualDisplay display;
     if (!openGlWindow("swap_bench", size.width, size.height, 32) || !picture.create(size, GL_RGB16))
         return 1;
