@@ -19,8 +19,9 @@ bool isLackOfMemory(const std::exception_ptr& thrown)
     } catch (const std::bad_alloc&) { // of the standard library's own containers
         return true;
     } catch (...) {
+        return false;
     }
-    return false;
+    return false; // nothing was thrown
 }
 
 [[noreturn]] void endProcess()

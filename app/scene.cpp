@@ -48,7 +48,7 @@ bool loadData()
         return false;
     if (zrk::libraryData.shaders.count != 0)
         return true;
-    std::cout << "The shaders pool holds no shader" << std::endl;
+    std::cout << "The shaders pool holds no shader\n" << std::flush;
     return false;
 }
 

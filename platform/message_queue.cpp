@@ -74,10 +74,10 @@ std::optional<MSG> nextFromDesktop()
 // WM_QUIT comes once, when no other message waits.
 std::optional<MSG> quit()
 {
-    if (!quitCode)
+    const auto code = std::exchange(quitCode, std::nullopt);
+    if (!code)
         return std::nullopt;
-    const auto code = static_cast<WPARAM>(*std::exchange(quitCode, std::nullopt));
-    return MSG{nullptr, WM_QUIT, code, 0, 0, {}};
+    return MSG{nullptr, WM_QUIT, static_cast<WPARAM>(*code), 0, 0, {}};
 }
 
 // In the order of urgency: a request to end must not wait behind a flood of mouse moves.

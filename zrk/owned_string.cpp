@@ -49,7 +49,7 @@ String& String::operator+=(const char* text)
     return *this;
 }
 
-void String::swap(String& other)
+void String::swap(String& other) noexcept
 {
     std::swap(size, other.size);
     data.swap(other.data);

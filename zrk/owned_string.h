@@ -21,7 +21,7 @@ public:
 
     void clear();
 
-    void swap(String& other);
+    void swap(String& other) noexcept;
 
     const char* cString() const { return data.get(); }
 

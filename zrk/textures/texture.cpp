@@ -114,7 +114,7 @@ std::uint32_t Texture::upload()
     return glName;
 }
 
-void Texture::swap(Texture& other)
+void Texture::swap(Texture& other) noexcept
 {
     std::swap(glName, other.glName);
     surface.swap(other.surface);

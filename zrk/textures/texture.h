@@ -46,7 +46,7 @@ public:
     std::uint32_t upload();
 
     /// Exchanges everything with `other`.
-    void swap(Texture& other);
+    void swap(Texture& other) noexcept;
 
     /// Frees the surface, if there is one; `glName` stays.
     void freeSurface();
