@@ -1,6 +1,7 @@
 #include "platform/win32.h"
 
 #include <cstdlib>
+#include <utility>
 
 namespace platform {
 
@@ -29,11 +30,11 @@ LONG WINAPI clearFlagOnCrash(EXCEPTION_POINTERS* /*exception*/)
 // The system keeps the flag when a process ends.
 void clearFlagAtEveryEnd()
 {
-    static const bool installed = [] {
-        SetUnhandledExceptionFilter(clearFlagOnCrash);
-        return std::atexit(clearFlag) == 0;
-    }();
-    static_cast<void>(installed);
+    static constinit bool installed = false;
+    if (std::exchange(installed, true))
+        return;
+    SetUnhandledExceptionFilter(clearFlagOnCrash);
+    std::atexit(clearFlag);
 }
 
 } // namespace
