@@ -11,7 +11,7 @@ namespace platform::x11 {
 
 namespace {
 
-// Processor time per pixel, measured: Mesa's llvmpipe draws the saver in 27 to 42 ns, more or less
+// Processor time per pixel, measured: Mesa's llvmpipe draws the saver in 22 to 41 ns, more or less
 // by the balls' motions; the server enlarges in 1.5 ns.
 constexpr double drawingTime = 33e-9, enlargingTime = 1.5e-9; // seconds
 constexpr double framePeriod = 1.0 / 60.0;                    // seconds
