@@ -14,7 +14,7 @@ bool loadGlEntryPoints()
     bool complete = true;
 #define QUAZO_LOAD(name, Type)                                                                     \
     name = wglProcedure<Type>(#name);                                                              \
-    complete = complete && name != nullptr;
+    complete = complete && (name) != nullptr;
     QUAZO_LATER_GL_ENTRY_POINTS(QUAZO_LOAD)
 #undef QUAZO_LOAD
     return complete;
