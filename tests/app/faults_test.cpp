@@ -13,6 +13,8 @@ namespace {
 std::pair<int, std::string> inChild(const std::function<int()>& work)
 {
     std::FILE* const errors = std::tmpfile();
+    if (errors == nullptr)
+        return {-1, "no temporary file"};
     const pid_t child = fork();
     if (child == 0) {
         dup2(fileno(errors), STDERR_FILENO);
@@ -22,7 +24,7 @@ std::pair<int, std::string> inChild(const std::function<int()>& work)
     int word = 0;
     waitpid(child, &word, 0);
     char text[4096] = "";
-    std::rewind(errors);
+    std::fseek(errors, 0, SEEK_SET);
     text[std::fread(text, 1, sizeof text - 1, errors)] = '\0';
     std::fclose(errors);
     return {WIFEXITED(word) ? WEXITSTATUS(word) : 128 + WTERMSIG(word), text};

@@ -36,9 +36,9 @@ double contrast(const Numbers& numbers)
 
 double quantile(double part, Numbers set)
 {
-    auto* const place = std::begin(set) + std::lround(part * static_cast<double>(set.size()));
-    std::nth_element(std::begin(set), place, std::end(set));
-    return *place;
+    const auto place = std::lround(part * static_cast<double>(set.size()));
+    std::nth_element(std::begin(set), std::begin(set) + place, std::end(set));
+    return set[static_cast<std::size_t>(place)];
 }
 
 /// The places in an image of the texels inside the disc of `radius`, where 1 is the rim.

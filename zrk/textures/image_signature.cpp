@@ -168,7 +168,8 @@ bool isDecodable(std::FILE* file)
 {
     char bytes[16];
     const std::string_view start(bytes, std::fread(bytes, 1, sizeof bytes, file));
-    std::rewind(file);
+    if (std::fseek(file, 0, SEEK_SET) != 0)
+        return false;
     for (const Signature& signature : signatures)
         if (startsWith(start, signature.bytes))
             return signature.isSound == nullptr || signature.isSound(file);

@@ -15,7 +15,7 @@ std::string output(Print print)
     std::FILE* stream = std::tmpfile();
     print(stream);
     std::string text(static_cast<std::size_t>(std::ftell(stream)), '\0');
-    std::rewind(stream);
+    std::fseek(stream, 0, SEEK_SET);
     text.resize(std::fread(text.data(), 1, text.size(), stream));
     std::fclose(stream);
     return text;
