@@ -30,8 +30,9 @@ constinit bool adopted = false;
     if (hexadecimal)
         text.remove_prefix(2);
     ::Window number = noWindow;
-    const char* const end = text.data() + text.size();
-    const auto [stop, failure] = std::from_chars(text.data(), end, number, hexadecimal ? 16 : 10);
+    const char* const begin = text.data();
+    const char* const end = begin + text.size();
+    const auto [stop, failure] = std::from_chars(begin, end, number, hexadecimal ? 16 : 10);
     return stop == end && failure == std::errc() ? number : noWindow;
 }
 
