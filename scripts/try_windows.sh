@@ -20,7 +20,8 @@ log=build/windows.log
 } >"$log" 2>&1 || { status=$?; tail -n 20 "$log" >&2; exit $status; }
 
 scratch=$(mktemp -d)
-export HOME="$scratch" WINEPREFIX="$scratch/prefix" WINEDLLOVERRIDES=mscoree,mshtml= WINEDEBUG=-all
+export HOME="$scratch" TMPDIR="$scratch" WINEPREFIX="$scratch/prefix" WINEDLLOVERRIDES=mscoree,mshtml=
+export WINEDEBUG=-all
 export LP_NUM_THREADS=0 # what software OpenGL draws with one core leaves the other to wine
 
 clean_up()
