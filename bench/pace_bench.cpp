@@ -1,5 +1,6 @@
 // The pace that a user sees: the saver on a screen of WIDTH x HEIGHT, with its frame clock. Prints
-// the frames a second, and the processor time that a frame takes the saver and the X server.
+// the frames a second, and the processor time that a frame takes the saver and the X server. The
+// seed chooses the balls' paths.
 // QUAZO_RENDER_SCALE is 1, unless the environment has another or an empty one.
 
 #include "app/gl_window.h"
@@ -18,7 +19,7 @@
 namespace {
 
 constexpr int warmUpFrames = 60; // until the picture has settled
-constexpr unsigned seed = 3;
+constexpr int usualSeed = 3;
 
 double processorTime(clockid_t clock)
 {
@@ -66,8 +67,8 @@ void measure(int frames)
 
 int main(int argumentCount, char** arguments)
 {
-    if (argumentCount != 4) {
-        std::fputs("pace_bench WIDTH HEIGHT FRAMES\n", stderr);
+    if (argumentCount != 4 && argumentCount != 5) {
+        std::fputs("pace_bench WIDTH HEIGHT FRAMES [SEED]\n", stderr);
         return 1;
     }
     const std::string screen = std::string(arguments[1]) + "x" + arguments[2] + "x24";
@@ -77,7 +78,7 @@ int main(int argumentCount, char** arguments)
         return 1;
     coverScreen(glWindow.window);
     obtainMultitexture();
-    std::srand(seed);
+    std::srand(static_cast<unsigned>(argumentCount == 5 ? std::atoi(arguments[4]) : usualSeed));
     startScene();
     drawFrames(warmUpFrames);
     measure(std::atoi(arguments[3]));
