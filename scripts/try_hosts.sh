@@ -4,6 +4,8 @@
 # skipped, and says why. Needs the release build, and the packages that test.sh installs.
 set -uo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
+source scripts/checkout.sh
+source scripts/virtual_display.sh
 
 # Each a function below, and the commands without which it is skipped. Arguments choose some of them.
 hosts=(
@@ -97,17 +99,6 @@ run_under_usr()
     "${apart[@]}" sh -c "$lay" "$scratch/usr" true 2>>"$log" ||
         skip "it looks under /usr, and nothing may be mounted there"
     "${apart[@]}" sh -c "$lay" "$scratch/usr" "${as_user[@]}" "$@" >>"$log" 2>&1 &
-}
-
-# An X server whose monitors stay when a client leaves.
-start_display()
-{
-    exec 3<>"$scratch/number"
-    Xvfb -displayfd 3 -screen 0 1024x768x24 -noreset -nolisten tcp 2>>"$log" &
-    wait_until 10 test -s "$scratch/number" || fail "Xvfb does not come up"
-    DISPLAY=":$(cat "$scratch/number")"
-    export DISPLAY
-    rm "$scratch/number"
 }
 
 # check_shown COUNT: that many savers run, and the picture is there.
@@ -240,7 +231,7 @@ try()
         for command in ${1#*:}; do
             command -v "$command" >/dev/null || skip "no $command here"
         done
-        start_display
+        start_display 1024x768
         "try_$host"
         echo "$host: picture shown, nothing left behind"
     ) &

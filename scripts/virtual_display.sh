@@ -4,12 +4,13 @@
 # start_display WIDTHxHEIGHT: starts an X server on a free number and sets DISPLAY and server.
 start_display()
 {
-    # The server picks a number, and writes it down once it is ready.
+    # The server picks a number, and writes it down once it is ready. Monitors that a client adds
+    # stay when it leaves.
     : >"$scratch/number"
     Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -noreset \
         3>"$scratch/number" 2>"$scratch/server.log" &
     server=$!
-    for _ in $(seq 100); do
+    for _ in $(seq 300); do
         [ -s "$scratch/number" ] && break
         kill -0 "$server" 2>/dev/null ||
             stop "cannot start Xvfb: $(tail -n 1 "$scratch/server.log")"
