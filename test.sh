@@ -113,6 +113,7 @@ else
     step "hosts" "release build" scripts/try_hosts.sh
     step "package" "release build" build_package
     step "clang-tidy" "release build" run_clang_tidy
+    step "README" "packages" scripts/try_readme.sh
     [ "${1:-}" != --windows ] || step "windows" "release build" scripts/try_windows.sh
 fi
 
