@@ -7,6 +7,7 @@
 #include "tests/support/headless_desktop.h"
 #include "tests/support/temporary_directory.h"
 #include "zrk/library_data.h"
+#include "zrk/shaders/texture_units.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -48,6 +49,7 @@ protected:
         std::construct_at(&zrk::libraryData);
         headless_desktop::reset();
         gl_recorder::reset();
+        zrk::beginContext(); // as OpenGL has started anew
         cursorTravel = {};
         keyDown = {};
         windowActive = true;
