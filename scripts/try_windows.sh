@@ -114,7 +114,7 @@ looks_right()
         holds "$(measure "$picture" -crop 640x1+0+479 maxima) == 0"
 }
 
-# Every start is another film, and balls close to the eye are bright: one good moment of ten will do.
+# Every start has other motions, and balls close to the eye are bright: one good moment of ten will do.
 picture_is_neither_dark_nor_burnt()
 {
     start /s
