@@ -52,9 +52,10 @@ void handleInputSignal()
 
 } // namespace
 
-void openWatch()
+bool openWatch()
 {
     server = XOpenDisplay(nullptr);
+    return server != nullptr;
 }
 
 void startWatch(::Window window)

@@ -8,9 +8,9 @@
 /// which tells of its input by a signal (SIGIO).
 namespace platform::x11 {
 
-/// Opens the second connection. To be called before the first one is opened: a server that ends
-/// closes its connections in the order of their opening.
-void openWatch();
+/// Opens the second connection, if there is a server. To be called before the first one is opened:
+/// a server that ends closes its connections in the order of their opening.
+[[nodiscard]] bool openWatch();
 
 /// Starts to watch the server and this window (0: none).
 void startWatch(::Window window);

@@ -78,10 +78,9 @@ Display* openConnection()
     observer = nullptr;
     XSetErrorHandler(&XErrorTrap::note); // for every connection of this process
     XSetIOErrorHandler(&endQuietly);
-    theConnection = XOpenDisplay(nullptr);
+    theConnection = openWatch() ? XOpenDisplay(nullptr) : nullptr; // one refusal is enough
     if (theConnection == nullptr)
         endWithoutDisplay();
-    openWatch();
     prepare(theConnection);
     return theConnection;
 }
