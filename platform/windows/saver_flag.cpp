@@ -1,5 +1,6 @@
 #include "platform/win32.h"
 
+#include <csignal>
 #include <cstdlib>
 #include <utility>
 
@@ -35,6 +36,7 @@ void clearFlagAtEveryEnd()
         return;
     SetUnhandledExceptionFilter(clearFlagOnCrash);
     std::atexit(clearFlag);
+    std::signal(SIGABRT, [](int) { clearFlag(); }); // std::abort passes neither
 }
 
 } // namespace
