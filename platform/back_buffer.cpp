@@ -167,6 +167,12 @@ bool BackBuffer::create(desktop::Size size, GLenum wantedFormat)
     return true;
 }
 
+void BackBuffer::createBest(desktop::Size size, bool swapsCopy)
+{
+    [[maybe_unused]] const bool kept =
+        create(size, GL_RGB16) || create(size, GL_RGBA16) || swapsCopy || create(size, GL_RGBA8);
+}
+
 void BackBuffer::fit(desktop::Size size, double zoom)
 {
     if (drawTarget == 0 || size == extent)

@@ -23,6 +23,11 @@ public:
     /// has no framebuffer objects or does not support the format.
     [[nodiscard]] bool create(desktop::Size size, GLenum wantedFormat);
 
+    /// Creates it in the best format that the driver supports; without one the program draws on the
+    /// window's own back buffer. With 8 bits a channel fading stops at a dim grey. A window whose
+    /// swaps copy has 8 bits and keeps its contents without a blit, so it precedes GL_RGBA8.
+    void createBest(desktop::Size size, bool swapsCopy);
+
     /// Changes the size. The contents, enlarged by `zoom`, keep their place at the lower left
     /// corner and are cut to the new size; new pixels are black. Without memory for the new size
     /// the old one stays.

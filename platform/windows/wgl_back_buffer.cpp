@@ -31,17 +31,11 @@ bool swapsCopy(HDC deviceContext)
            (descriptor.dwFlags & PFD_SWAP_COPY) != 0;
 }
 
-// In order of preference; where nothing is supported, the program draws on the window's own back
-// buffer. With 8 bits a channel fading stops at a dim grey.
 void createBackBuffer(HDC deviceContext)
 {
     backBuffer = BackBuffer();
-    if (!loadGlEntryPoints())
-        return;
-    const desktop::Size size = clientSize(deviceContext);
-    [[maybe_unused]] const bool kept =
-        backBuffer.create(size, GL_RGB16) || backBuffer.create(size, GL_RGBA16) ||
-        swapsCopy(deviceContext) || backBuffer.create(size, GL_RGBA8);
+    if (loadGlEntryPoints())
+        backBuffer.createBest(clientSize(deviceContext), swapsCopy(deviceContext));
 }
 
 // Vsync and, for drivers that do not wait, the clock. The system names the refresh rate in whole

@@ -24,16 +24,6 @@ struct Context {
 constinit std::vector<std::unique_ptr<Context>> contexts;
 constinit Context* current = nullptr;
 
-// In order of preference; where nothing is supported, the program draws on the window's own back
-// buffer. With 8 bits a channel fading stops at a dim grey. A window whose swaps copy has 8 bits
-// and keeps its contents without a blit, so it precedes a framebuffer object of 8 bits.
-void createBackBuffer(BackBuffer& buffer, const WindowRecord& window)
-{
-    [[maybe_unused]] const bool kept =
-        buffer.create(window.client, GL_RGB16) || buffer.create(window.client, GL_RGBA16) ||
-        window.format.swapCopies || buffer.create(window.client, GL_RGBA8);
-}
-
 // Fits the framebuffer to the window, and what enlarges it to the framebuffer.
 void fitTo(const WindowRecord& window, Context& context, double zoom)
 {
@@ -49,7 +39,7 @@ void fitTo(const WindowRecord& window, Context& context, double zoom)
 void prepareBackBuffer(Context& context, WindowRecord& window)
 {
     Display* const display = connection();
-    createBackBuffer(context.backBuffer, window);
+    context.backBuffer.createBest(window.client, window.format.swapCopies);
     chooseScaling(display, context.backBuffer.size() == window.client &&
                                Enlargement::isOffered(display, window.format.visual));
     window.sizeIsToTell = true;
