@@ -2,7 +2,8 @@
 
 #include "platform/win32.h"
 
-/// The handles of the saver's only window; null where there is nothing to release.
+/// The handles of the saver's only window; null until they are made. One that was released stays,
+/// and is not used again.
 struct GlWindow {
     HINSTANCE instance = nullptr;
     HWND window = nullptr;

@@ -92,7 +92,8 @@ void showPointer(NativeWindow window, bool visible);
 /// contents.
 [[nodiscard]] bool swapBuffers(NativeWindow window);
 
-/// The entry point of an OpenGL extension; null when there is none or no context is current.
+/// The entry point of an OpenGL extension; null when no context is current. One that is not null
+/// does not say that the driver has the extension: ask GL_EXTENSIONS first.
 [[nodiscard]] PROC glProcedure(const char* name);
 
 /// Shows a message box with an OK button and returns when it is closed, or when `endDescriptor`

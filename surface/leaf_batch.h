@@ -14,8 +14,8 @@
 /// at the places that `gridPoint` gives.
 using GridPoints = std::array<Float4, 27>;
 
-/// The place of a grid point, from its 0, 1 or 2 along x, y and z. Linear, so that the octants'
-/// corners are those of octant 0 moved by the place of the octant's own corner 0.
+/// The place of the grid point (x, y, z), each of them 0, 1 or 2. It is linear: the place of an
+/// octant's corner is that of the same corner of octant 0 plus that of the octant's corner 0.
 constexpr std::size_t gridPoint(std::size_t x, std::size_t y, std::size_t z)
 {
     return 9 * x + 3 * y + z;

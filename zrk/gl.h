@@ -1,7 +1,7 @@
 #pragma once
 
-// The only file that includes OpenGL and GLU. On Windows their headers need the Win32 types, whose
-// header defines `far` and `near` as macros.
+// All files above the platform get OpenGL and GLU here. On Windows their headers need the Win32
+// types, whose header defines `far` and `near` as macros.
 #ifdef _WIN32
 #include <windows.h>
 #undef far

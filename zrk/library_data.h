@@ -21,7 +21,8 @@ public:
     [[nodiscard]] std::int32_t loadData(const char* fileName, std::ostream* log);
 
     /// Creates the texture objects, then lets the layers look up their names. Call it once, after a
-    /// successful `loadData`, with an OpenGL context current.
+    /// successful `loadData`, with an OpenGL context current. A pending OpenGL error ends the
+    /// process, as `Texture::upload` says.
     void upload();
 };
 

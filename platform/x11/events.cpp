@@ -135,8 +135,8 @@ bool onFocus(WindowRecord& record, const XEvent& event, Message& result)
     return true;
 }
 
-// Managers tell of minimised windows by WM_STATE, _NET_WM_STATE, or both, one after the other; only
-// what changes the sum of them is a message.
+// Managers tell of minimised windows by WM_STATE, _NET_WM_STATE, or both, one after the other. The
+// window is minimised while either says so.
 bool onProperty(WindowRecord& record, const XEvent& event, Message& result)
 {
     const bool wasMinimised = isMinimised(record);

@@ -22,9 +22,9 @@ void chooseHostWindow(int argumentCount, const char* const* arguments);
 /// on standard error, when there is no such window.
 void adoptHost(Display* display);
 
-/// Lets the C library's random numbers go on by a number of values that the host's window decides:
-/// savers that are seeded in the same second, one a monitor, show pictures of their own. To be
-/// called after the seeding.
+/// Skips some values of the C library's `rand`, how many the host window's id decides: savers that
+/// are seeded in the same second, one a monitor, show pictures of their own. To be called after the
+/// seeding.
 void varyRandomNumbers();
 
 /// Writes `text` as one line to standard error, which a host's log shows: there is no other way

@@ -14,7 +14,7 @@ namespace platform::x11 {
 
 namespace {
 
-// What a host of ours has told us is not for the copy: its host are we.
+// What a host has told us is not for the copy, whose host we are.
 std::vector<char*> environmentForCopy()
 {
     std::vector<char*> kept;

@@ -15,8 +15,8 @@ constexpr int largestScale = 8;
 [[nodiscard]] int givenScale(const char* text);
 
 /// The smallest scale with which a software renderer and the server hold the pace in a window of
-/// this size with about one core; half of it where there is only one, a quarter of them where there
-/// are more than four.
+/// this size with about one core; with half a core where there is only one, and with a quarter of
+/// the cores where there are more than four.
 [[nodiscard]] int softwareScale(desktop::Size window, unsigned int cores);
 
 /// From now on all windows have the given scale, or else the one that `softwareScale` gives, if the

@@ -6,9 +6,9 @@
 namespace platform::x11 {
 
 /// False while the window is minimised, not viewable, wholly behind other windows, or on a monitor
-/// that is switched off. The server tells the first three; the last, and whether a window that the
-/// window depends on was unmapped, it has to be asked for: once a second while the window is seen,
-/// in every call while it is not.
+/// that is switched off. Events tell of minimised and of covered windows. Whether it is viewable,
+/// and whether the monitors are on, the server has to be asked: once a second while the window is
+/// seen, in every call while it is not.
 [[nodiscard]] bool isSeen(Display* display, WindowRecord& record);
 
 /// Waits a quarter of a second, or until an event or a signal comes.

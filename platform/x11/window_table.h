@@ -25,7 +25,7 @@ struct WindowRecord {
                               ///< desktop's top left corner, until monitors change.
     POINT pointer{};          ///< Its place in the last mouse message.
     RECT margins{};           ///< Of the desktop, around the window, as the program placed it.
-    desktop::Size client;     ///< As the server last reported.
+    desktop::Size client;     ///< As the server last reported; before it is mapped, as asked for.
     bool sizeIsToTell = true; ///< `client` is to be reported to the program.
     MapRequests requests;
     bool shown = false;                  ///< Mapped.

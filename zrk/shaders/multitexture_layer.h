@@ -19,8 +19,9 @@ struct TextureStage {
     TextureState state;
 };
 
-/// Several textures at once, stage i on unit i. If the driver has fewer units than the layer has
-/// stages, only stage 0 is applied.
+/// Several textures at once, stage i on unit i. Only units 0 and 1 are enabled: later stages are
+/// bound but not shown, and with a single stage unit 1 shows what was bound there last. If the
+/// driver has fewer units than the layer has stages, only stage 0 is applied, and shown.
 class MultitextureLayer : public ShaderLayer {
 public:
     bool prepared = false; ///< `apply` or `reapply` has set the whole state once.
@@ -50,7 +51,8 @@ public:
     virtual void assign(const MultitextureLayer& other);
 
 private:
-    /// Enables the layer's units and returns how many stages can be applied.
+    /// Enables units 0 and 1, or 0 alone where stages are left out, and returns how many stages can
+    /// be applied.
     std::uint32_t enableUnits() const;
 
     void describe(String& out, Decimals decimals) const;

@@ -37,7 +37,8 @@ public:
     /// may be null. Throws `Cexception` without memory.
     [[nodiscard]] std::int32_t load(const char* name, std::ostream* log);
 
-    /// Uploads every texture, number 0 first. An OpenGL context must be current.
+    /// Uploads every texture, number 0 first. An OpenGL context must be current. A pending OpenGL
+    /// error ends the process, as `Texture::upload` says.
     void uploadAll();
 
     /// Replaces all textures by `newCount` empty ones. Throws `Cexception` without memory; the pool
