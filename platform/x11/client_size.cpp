@@ -1,8 +1,8 @@
 #include "platform/x11/client_size.h"
 
 #include "platform/x11/contexts.h"
-#include "platform/x11/desktop_area.h"
 #include "platform/x11/render_scale.h"
+#include "platform/x11/screen_area.h"
 
 namespace platform::x11 {
 

@@ -1,9 +1,9 @@
 #include "platform/x11/curtains.h"
 
-#include "platform/x11/desktop_area.h"
 #include "platform/x11/host_window.h"
 #include "platform/x11/hosted_copy.h"
 #include "platform/x11/pointer.h"
+#include "platform/x11/screen_area.h"
 #include "platform/x11/software_renderer.h"
 #include "platform/x11/window_manager.h"
 
@@ -17,27 +17,27 @@ namespace {
 
 struct Curtain {
     ::Window id = 0;
-    DesktopArea monitor;
+    ScreenArea monitor;
     bool pictured = false; ///< Its picture was started, if it is to have one.
 };
 
 constinit std::vector<Curtain> curtains;
 constinit ::Window saversWindow = 0;
 
-bool overlap(const DesktopArea& a, const DesktopArea& b)
+bool overlap(const ScreenArea& a, const ScreenArea& b)
 {
     return a.corner.x < b.corner.x + b.size.width && b.corner.x < a.corner.x + a.size.width &&
            a.corner.y < b.corner.y + b.size.height && b.corner.y < a.corner.y + a.size.height;
 }
 
-bool hangsOn(const Curtain& curtain, const DesktopArea& monitor)
+bool hangsOn(const Curtain& curtain, const ScreenArea& monitor)
 {
     return curtain.monitor.corner.x == monitor.corner.x &&
            curtain.monitor.corner.y == monitor.corner.y && curtain.monitor.size == monitor.size;
 }
 
 // The window's middle: a manager may let its edges reach over to other monitors.
-DesktopArea middleOf(Display* display, const WindowRecord& window)
+ScreenArea middleOf(Display* display, const WindowRecord& window)
 {
     int x = 0, y = 0;
     ::Window child = 0;
@@ -46,18 +46,18 @@ DesktopArea middleOf(Display* display, const WindowRecord& window)
     return {DefaultRootWindow(display), {x, y}, {1, 1}};
 }
 
-std::vector<DesktopArea> bareMonitors(Display* display, const WindowRecord& saver)
+std::vector<ScreenArea> bareMonitors(Display* display, const WindowRecord& saver)
 {
     if (hosted() || saver.iconic || saver.hidden)
         return {};
-    std::vector<DesktopArea> bare = monitors(display);
-    const DesktopArea middle = middleOf(display, saver);
-    const auto home = std::find_if(bare.begin(), bare.end(), [&](const DesktopArea& monitor) {
+    std::vector<ScreenArea> bare = monitors(display);
+    const ScreenArea middle = middleOf(display, saver);
+    const auto home = std::find_if(bare.begin(), bare.end(), [&](const ScreenArea& monitor) {
         return overlap(monitor, middle);
     });
     // A window that is on no monitor is on its way to the primary one.
-    const DesktopArea covered = home == bare.end() ? bare.front() : *home;
-    std::erase_if(bare, [&](const DesktopArea& monitor) { return overlap(monitor, covered); });
+    const ScreenArea covered = home == bare.end() ? bare.front() : *home;
+    std::erase_if(bare, [&](const ScreenArea& monitor) { return overlap(monitor, covered); });
     return bare;
 }
 
@@ -75,7 +75,7 @@ std::vector<DesktopArea> bareMonitors(Display* display, const WindowRecord& save
     return window;
 }
 
-::Window hang(Display* display, const DesktopArea& monitor)
+::Window hang(Display* display, const ScreenArea& monitor)
 {
     XSetWindowAttributes attributes{};
     attributes.override_redirect = True;
@@ -105,13 +105,13 @@ void stackAbove(Display* display, ::Window curtain, ::Window sibling)
 
 void layCurtains(Display* display, const WindowRecord& saver)
 {
-    const std::vector<DesktopArea> bare = bareMonitors(display, saver);
+    const std::vector<ScreenArea> bare = bareMonitors(display, saver);
     if (std::equal(curtains.begin(), curtains.end(), bare.begin(), bare.end(), hangsOn))
         return;
     liftCurtains(display);
     saversWindow = saver.id;
     const ::Window frame = frameOf(display, saver.id);
-    for (const DesktopArea& monitor : bare) {
+    for (const ScreenArea& monitor : bare) {
         const ::Window curtain = hang(display, monitor);
         curtains.push_back({curtain, monitor, false});
         if (saver.shown)

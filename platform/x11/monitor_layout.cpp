@@ -32,7 +32,7 @@ bool isMonitorChange(const XEvent& event)
 
 } // namespace
 
-void layWindow(Display* display, WindowRecord& record, const DesktopArea& desktop)
+void layWindow(Display* display, WindowRecord& record, const ScreenArea& desktop)
 {
     const RECT& margins = record.margins;
     const int width = desktop.size.width - static_cast<int>(margins.left + margins.right);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/x11/desktop_area.h"
+#include "platform/x11/screen_area.h"
 #include "platform/x11/window_table.h"
 
 #include <X11/Xlib.h>
@@ -9,7 +9,7 @@
 namespace platform::x11 {
 
 /// Moves and resizes the window so that its margins to the desktop's edges are those of its record.
-void layWindow(Display* display, WindowRecord& record, const DesktopArea& desktop);
+void layWindow(Display* display, WindowRecord& record, const ScreenArea& desktop);
 
 /// Selects the events that tell of changes; in a host's window none, since the host follows them.
 void watchMonitors(Display* display);

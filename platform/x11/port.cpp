@@ -3,7 +3,6 @@
 #include "platform/x11/connection_watch.h"
 #include "platform/x11/contexts.h"
 #include "platform/x11/curtains.h"
-#include "platform/x11/desktop_area.h"
 #include "platform/x11/display.h"
 #include "platform/x11/events.h"
 #include "platform/x11/host_window.h"
@@ -13,6 +12,7 @@
 #include "platform/x11/presentation.h"
 #include "platform/x11/render_scale.h"
 #include "platform/x11/running_flag.h"
+#include "platform/x11/screen_area.h"
 #include "platform/x11/window_manager.h"
 #include "platform/x11/window_table.h"
 
@@ -40,7 +40,7 @@ Display* connected()
     return display;
 }
 
-DesktopArea desktopArea(Display* display)
+ScreenArea desktopArea(Display* display)
 {
     return hosted() ? areaOf(display, hostWindow()) : monitors(display).front();
 }
@@ -105,7 +105,7 @@ bool size(Size& result)
 bool pointerPosition(POINT& result)
 {
     Display* const display = connected();
-    const DesktopArea area = desktopArea(display);
+    const ScreenArea area = desktopArea(display);
     ::Window root = 0, child = 0;
     int rootX = 0, rootY = 0, x = 0, y = 0;
     unsigned int buttons = 0;
@@ -137,7 +137,7 @@ NativeWindow createWindow(const char* title, int x, int y, Size client)
 {
     Display* const display = connected();
     XErrorTrap trap(display);
-    const DesktopArea area = desktopArea(display);
+    const ScreenArea area = desktopArea(display);
     const POINT place{area.corner.x + x, area.corner.y + y};
     WindowRecord* const record =
         hosted() ? addWindow(display, {area.parent, area.corner, area.size, hostedEvents})
@@ -192,7 +192,7 @@ bool placeWindow(NativeWindow window, int x, int y, Size client, bool topmost)
     if (hosted())
         return true;
     Display* const display = connection();
-    const DesktopArea area = desktopArea(display);
+    const ScreenArea area = desktopArea(display);
     record->origin = area.corner;
     record->margins = {x, y, area.size.width - x - client.width,
                        area.size.height - y - client.height};

@@ -2,7 +2,7 @@
 
 #include "platform/frame_clock.h"
 #include "platform/x11/contexts.h"
-#include "platform/x11/frame_pace.h"
+#include "platform/x11/refresh_period.h"
 #include "platform/x11/swap_interval.h"
 #include "platform/x11/visibility.h"
 
@@ -14,7 +14,7 @@ constinit FrameClock frameClock;
 
 } // namespace
 
-void setPace(Display* display, ::Window window, const DesktopArea& desktop)
+void setPace(Display* display, ::Window window, const ScreenArea& desktop)
 {
     const Nanoseconds refresh = refreshPeriod(display, desktop);
     const int refreshes = refreshesPerFrame(refresh);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/x11/desktop_area.h"
+#include "platform/x11/screen_area.h"
 #include "platform/x11/window_table.h"
 
 /// A frame's way to the screen.
@@ -8,7 +8,7 @@ namespace platform::x11 {
 
 /// Sets the pace of the frames by the monitor that shows the middle of this desktop. A context has
 /// to be current on the window.
-void setPace(Display* display, ::Window window, const DesktopArea& desktop);
+void setPace(Display* display, ::Window window, const ScreenArea& desktop);
 
 /// Puts what was drawn on a window that is mapped, when the next frame is due. Where nobody can see
 /// the window it rests instead, a quarter of a second or until something happens.

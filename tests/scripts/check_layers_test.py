@@ -11,8 +11,8 @@ GUARD = Path(__file__).resolve().parents[2] / "scripts" / "check_layers.py"
 SOUND = {
     "platform/frame_clock.h": "",
     "platform/windows.cpp": '#include "platform/frame_clock.h"\n',
-    "platform/x11/frame_pace.h": '#include "platform/frame_clock.h"\n#include <X11/Xlib.h>\n',
-    "platform/x11/port.cpp": '#include "platform/x11/frame_pace.h"\n',
+    "platform/x11/refresh_period.h": '#include "platform/frame_clock.h"\n#include <X11/Xlib.h>\n',
+    "platform/x11/port.cpp": '#include "platform/x11/refresh_period.h"\n',
     "surface/field.h": "",
     "surface/balls.h": "",
     "surface/field.cpp": '#include "surface/field.h"\n#include "surface/balls.h"\n',
@@ -34,8 +34,8 @@ class CheckLayers(unittest.TestCase):
 
     def test_each_planted_fault_is_named(self):
         for path, include, said in [
-            ("platform/windows.cpp", "platform/x11/frame_pace.h", "may not include x11 records"),
-            ("platform/x11/frame_pace.h", "platform/x11/events.h", "may not include x11 top"),
+            ("platform/windows.cpp", "platform/x11/refresh_period.h", "may not include x11 records"),
+            ("platform/x11/refresh_period.h", "platform/x11/events.h", "may not include x11 top"),
             ("surface/balls.cpp", "surface/field.h", "surface/balls -> surface/field"),
         ]:
             with self.subTest(path):

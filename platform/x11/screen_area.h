@@ -9,7 +9,7 @@
 namespace platform::x11 {
 
 /// Where a desktop lies: what its windows are children of, its top left corner there, its size.
-struct DesktopArea {
+struct ScreenArea {
     ::Window parent = 0;
     POINT corner{};
     desktop::Size size;
@@ -20,9 +20,9 @@ struct DesktopArea {
 
 /// The monitors on the root window, as they are now, the primary one first; there is at least one.
 /// Monitors that show the same overlap. Asks the server.
-[[nodiscard]] std::vector<DesktopArea> monitors(Display* display);
+[[nodiscard]] std::vector<ScreenArea> monitors(Display* display);
 
 /// The whole of a window, as it is now; asks the server.
-[[nodiscard]] DesktopArea areaOf(Display* display, ::Window window);
+[[nodiscard]] ScreenArea areaOf(Display* display, ::Window window);
 
 } // namespace platform::x11

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h> // before Xlib, which makes macros of its names
 
-#include "platform/x11/frame_pace.h"
+#include "platform/x11/refresh_period.h"
 
 using namespace platform::x11;
 using platform::Nanoseconds;

@@ -1,4 +1,4 @@
-#include "platform/x11/desktop_area.h"
+#include "platform/x11/screen_area.h"
 
 #include <X11/extensions/Xrandr.h>
 
@@ -28,14 +28,14 @@ desktop::Size sizeOf(Display* display, ::Window window)
     return {static_cast<int>(width), static_cast<int>(height)};
 }
 
-DesktopArea areaOf(Display* display, ::Window window)
+ScreenArea areaOf(Display* display, ::Window window)
 {
     return {window, {0, 0}, sizeOf(display, window)};
 }
 
 // RandR 1.5's monitors, not its outputs: a monitor may be several outputs that make one picture, or
 // a part of one that the user has split. Without RandR the whole screen counts as one monitor.
-std::vector<DesktopArea> monitors(Display* display)
+std::vector<ScreenArea> monitors(Display* display)
 {
     const ::Window root = DefaultRootWindow(display);
     if (!knowsMonitors(display))
@@ -49,7 +49,7 @@ std::vector<DesktopArea> monitors(Display* display)
     const std::span known(list.get(), static_cast<std::size_t>(count));
     std::stable_partition(known.begin(), known.end(),
                           [](const XRRMonitorInfo& monitor) { return monitor.primary != 0; });
-    std::vector<DesktopArea> areas;
+    std::vector<ScreenArea> areas;
     for (const XRRMonitorInfo& monitor : known)
         areas.push_back({root, {monitor.x, monitor.y}, {monitor.width, monitor.height}});
     return areas;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/frame_clock.h"
-#include "platform/x11/desktop_area.h"
+#include "platform/x11/screen_area.h"
 
 #include <X11/extensions/Xrandr.h>
 
@@ -12,6 +12,6 @@ namespace platform::x11 {
 [[nodiscard]] Nanoseconds refreshPeriod(const XRRModeInfo& mode);
 
 /// The same for the monitor that shows the middle of this area; asks the server.
-[[nodiscard]] Nanoseconds refreshPeriod(Display* display, const DesktopArea& desktop);
+[[nodiscard]] Nanoseconds refreshPeriod(Display* display, const ScreenArea& desktop);
 
 } // namespace platform::x11

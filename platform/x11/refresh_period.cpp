@@ -1,4 +1,4 @@
-#include "platform/x11/frame_pace.h"
+#include "platform/x11/refresh_period.h"
 
 #include <memory>
 #include <span>
@@ -31,7 +31,7 @@ bool contains(const XRRCrtcInfo& monitor, int x, int y)
 }
 
 // The mode of the monitor that shows the middle of the desktop; 0 when none does.
-RRMode modeOf(Display* display, const DesktopArea& desktop, XRRScreenResources& resources)
+RRMode modeOf(Display* display, const ScreenArea& desktop, XRRScreenResources& resources)
 {
     int x = desktop.corner.x + desktop.size.width / 2;
     int y = desktop.corner.y + desktop.size.height / 2;
@@ -66,7 +66,7 @@ Nanoseconds refreshPeriod(const XRRModeInfo& mode)
     return period < shortestPeriod || period > longestPeriod ? usualFramePeriod : period;
 }
 
-Nanoseconds refreshPeriod(Display* display, const DesktopArea& desktop)
+Nanoseconds refreshPeriod(Display* display, const ScreenArea& desktop)
 {
     const Resources resources = monitorResources(display);
     if (!resources)
