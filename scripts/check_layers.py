@@ -17,7 +17,7 @@ ANYTHING = None
 # counts. A port is a folder under platform/, and includes of platform/ only the ground.
 ROOMS = [
     ("x11 ground", r"platform/x11/(connection_watch|display|enlargement|glx_config|glx_extension"
-     r"|keys|monitor_power|render_scale|server_image|software_renderer|window_manager|xwayland)\.",
+     r"|keys|monitor_power|randr|render_scale|server_image|software_renderer|window_manager|xwayland)\.",
      [PORT_GROUND]),
     ("x11 top", r"platform/x11/(curtains|events|host_window|message_dialog|monitor_layout|port)\.",
      ["x11 records"] + X11_GROUND),

@@ -3,22 +3,14 @@
 #include "platform/x11/curtains.h"
 #include "platform/x11/host_window.h"
 #include "platform/x11/presentation.h"
+#include "platform/x11/randr.h"
 #include "platform/x11/window_manager.h"
-
-#include <X11/extensions/Xrandr.h>
 
 #include <algorithm>
 
 namespace platform::x11 {
 
 namespace {
-
-// The event base of RandR; -1 where the server does not have it.
-int firstRandrEvent(Display* display)
-{
-    int event = 0, error = 0;
-    return XRRQueryExtension(display, &event, &error) != 0 ? event : -1;
-}
 
 // Monitors that the user defines, as parts of others, change the root window's configuration only.
 bool isMonitorChange(const XEvent& event)

@@ -14,9 +14,9 @@ constinit FrameClock frameClock;
 
 } // namespace
 
-void setPace(Display* display, ::Window window, const ScreenArea& desktop)
+void setPace(Display* display, ::Window window, const ScreenArea& area)
 {
-    const Nanoseconds refresh = refreshPeriod(display, desktop);
+    const Nanoseconds refresh = refreshPeriod(display, area);
     const int refreshes = refreshesPerFrame(refresh);
     const Nanoseconds period = refreshes * refresh;
     // If swaps wait for the refresh, our clock runs slightly fast: were it the slower of the two, a

@@ -1,5 +1,7 @@
 #include "platform/x11/refresh_period.h"
 
+#include "platform/x11/randr.h"
+
 #include <memory>
 #include <span>
 
@@ -10,19 +12,7 @@ namespace {
 constexpr Nanoseconds second = 1'000'000'000;
 constexpr Nanoseconds shortestPeriod = second / 1000, longestPeriod = second / 20;
 
-using Resources = std::unique_ptr<XRRScreenResources, decltype(&XRRFreeScreenResources)>;
 using Controller = std::unique_ptr<XRRCrtcInfo, decltype(&XRRFreeCrtcInfo)>;
-
-// What the server knows of its monitors. XRRGetScreenResources would make it look for new ones,
-// during which some drivers blank the screen.
-Resources monitorResources(Display* display)
-{
-    int event = 0, error = 0, major = 0, minor = 0;
-    const bool known = XRRQueryExtension(display, &event, &error) != 0 &&
-                       XRRQueryVersion(display, &major, &minor) != 0 && (major > 1 || minor >= 3);
-    return {known ? XRRGetScreenResourcesCurrent(display, DefaultRootWindow(display)) : nullptr,
-            &XRRFreeScreenResources};
-}
 
 bool contains(const XRRCrtcInfo& monitor, int x, int y)
 {
@@ -30,14 +20,13 @@ bool contains(const XRRCrtcInfo& monitor, int x, int y)
            y < monitor.y + static_cast<int>(monitor.height);
 }
 
-// The mode of the monitor that shows the middle of the desktop; 0 when none does.
-RRMode modeOf(Display* display, const ScreenArea& desktop, XRRScreenResources& resources)
+// The mode of the monitor that shows the middle of the area; 0 when none does.
+RRMode modeOf(Display* display, const ScreenArea& area, XRRScreenResources& resources)
 {
-    int x = desktop.corner.x + desktop.size.width / 2;
-    int y = desktop.corner.y + desktop.size.height / 2;
+    int x = area.corner.x + area.size.width / 2;
+    int y = area.corner.y + area.size.height / 2;
     ::Window child = 0;
-    XTranslateCoordinates(display, desktop.parent, DefaultRootWindow(display), x, y, &x, &y,
-                          &child);
+    XTranslateCoordinates(display, area.parent, DefaultRootWindow(display), x, y, &x, &y, &child);
     for (const RRCrtc id : std::span(resources.crtcs, static_cast<std::size_t>(resources.ncrtc))) {
         const Controller crtc(XRRGetCrtcInfo(display, &resources, id), &XRRFreeCrtcInfo);
         if (crtc && crtc->mode != 0 && contains(*crtc, x, y))
@@ -66,12 +55,12 @@ Nanoseconds refreshPeriod(const XRRModeInfo& mode)
     return period < shortestPeriod || period > longestPeriod ? usualFramePeriod : period;
 }
 
-Nanoseconds refreshPeriod(Display* display, const ScreenArea& desktop)
+Nanoseconds refreshPeriod(Display* display, const ScreenArea& area)
 {
-    const Resources resources = monitorResources(display);
+    const ScreenResources resources = screenResources(display);
     if (!resources)
         return usualFramePeriod;
-    const RRMode current = modeOf(display, desktop, *resources);
+    const RRMode current = modeOf(display, area, *resources);
     for (const XRRModeInfo& mode :
          std::span(resources->modes, static_cast<std::size_t>(resources->nmode)))
         if (mode.id == current)

@@ -12,6 +12,6 @@ namespace platform::x11 {
 [[nodiscard]] Nanoseconds refreshPeriod(const XRRModeInfo& mode);
 
 /// The same for the monitor that shows the middle of this area; asks the server.
-[[nodiscard]] Nanoseconds refreshPeriod(Display* display, const ScreenArea& desktop);
+[[nodiscard]] Nanoseconds refreshPeriod(Display* display, const ScreenArea& area);
 
 } // namespace platform::x11

@@ -1,23 +1,12 @@
 #include "platform/x11/screen_area.h"
 
-#include <X11/extensions/Xrandr.h>
+#include "platform/x11/randr.h"
 
 #include <algorithm>
 #include <memory>
 #include <span>
 
 namespace platform::x11 {
-
-namespace {
-
-bool knowsMonitors(Display* display)
-{
-    int event = 0, error = 0, major = 0, minor = 0;
-    return XRRQueryExtension(display, &event, &error) != 0 &&
-           XRRQueryVersion(display, &major, &minor) != 0 && (major > 1 || minor >= 5);
-}
-
-} // namespace
 
 desktop::Size sizeOf(Display* display, ::Window window)
 {
@@ -37,8 +26,9 @@ ScreenArea areaOf(Display* display, ::Window window)
 // a part of one that the user has split. Without RandR the whole screen counts as one monitor.
 std::vector<ScreenArea> monitors(Display* display)
 {
+    constexpr int knowsMonitors = 5;
     const ::Window root = DefaultRootWindow(display);
-    if (!knowsMonitors(display))
+    if (!hasRandr(display, knowsMonitors))
         return {areaOf(display, root)};
     int count = 0;
     const std::unique_ptr<XRRMonitorInfo, decltype(&XRRFreeMonitors)> list(

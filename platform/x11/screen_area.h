@@ -8,10 +8,11 @@
 
 namespace platform::x11 {
 
-/// Where a desktop lies: what its windows are children of, its top left corner there, its size.
+/// A rectangle of a window, in pixels: a desktop's, whose windows are children of that one, or a
+/// monitor's on the root window.
 struct ScreenArea {
     ::Window parent = 0;
-    POINT corner{};
+    POINT corner{}; ///< Its top left one.
     desktop::Size size;
 };
 

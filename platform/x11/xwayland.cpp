@@ -1,6 +1,6 @@
 #include "platform/x11/xwayland.h"
 
-#include <X11/extensions/Xrandr.h>
+#include "platform/x11/randr.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -12,16 +12,11 @@ namespace platform::x11 {
 
 namespace {
 
-using Resources = std::unique_ptr<XRRScreenResources, decltype(&XRRFreeScreenResources)>;
 using Output = std::unique_ptr<XRROutputInfo, decltype(&XRRFreeOutputInfo)>;
 
 bool hasXwaylandOutput(Display* display)
 {
-    int event = 0, error = 0;
-    if (XRRQueryExtension(display, &event, &error) == False)
-        return false;
-    const Resources resources(XRRGetScreenResourcesCurrent(display, DefaultRootWindow(display)),
-                              &XRRFreeScreenResources);
+    const ScreenResources resources = screenResources(display);
     if (resources == nullptr)
         return false;
     const std::span outputs(resources->outputs, static_cast<std::size_t>(resources->noutput));
