@@ -18,7 +18,7 @@ namespace {
 struct Curtain {
     ::Window id = 0;
     ScreenArea monitor;
-    bool pictured = false; ///< Its picture was started, if it is to have one.
+    bool copyStarted = false; ///< If it is to have one.
 };
 
 constinit std::vector<Curtain> curtains;
@@ -34,6 +34,27 @@ bool hangsOn(const Curtain& curtain, const ScreenArea& monitor)
 {
     return curtain.monitor.corner.x == monitor.corner.x &&
            curtain.monitor.corner.y == monitor.corner.y && curtain.monitor.size == monitor.size;
+}
+
+bool contains(const ScreenArea& outer, const ScreenArea& inner)
+{
+    return outer.corner.x <= inner.corner.x && outer.corner.y <= inner.corner.y &&
+           inner.corner.x + inner.size.width <= outer.corner.x + outer.size.width &&
+           inner.corner.y + inner.size.height <= outer.corner.y + outer.size.height;
+}
+
+// A monitor that shows a part of another one, or the same, is covered with that one.
+std::vector<ScreenArea> withoutMirrors(const std::vector<ScreenArea>& monitors)
+{
+    std::vector<ScreenArea> kept;
+    for (const ScreenArea& monitor : monitors) {
+        if (std::any_of(kept.begin(), kept.end(),
+                        [&](const ScreenArea& other) { return contains(other, monitor); }))
+            continue;
+        std::erase_if(kept, [&](const ScreenArea& other) { return contains(monitor, other); });
+        kept.push_back(monitor);
+    }
+    return kept;
 }
 
 // The window's middle: a manager may let its edges reach over to other monitors.
@@ -58,7 +79,7 @@ std::vector<ScreenArea> bareMonitors(Display* display, const WindowRecord& saver
     // A window that is on no monitor is on its way to the primary one.
     const ScreenArea covered = home == bare.end() ? bare.front() : *home;
     std::erase_if(bare, [&](const ScreenArea& monitor) { return overlap(monitor, covered); });
-    return bare;
+    return withoutMirrors(bare);
 }
 
 // The child of the root window that the window is in: its frame, where a manager has made one.
@@ -122,10 +143,10 @@ void layCurtains(Display* display, const WindowRecord& saver)
 }
 
 // The server has to know a window before the copy asks for it over a connection of its own.
-void startPictures(Display* display)
+void startCopies(Display* display)
 {
     for (Curtain& curtain : curtains) {
-        if (std::exchange(curtain.pictured, true) || drawsInSoftware(display))
+        if (std::exchange(curtain.copyStarted, true) || drawsInSoftware(display))
             continue;
         XSync(display, False);
         startCopyIn(curtain.id);

@@ -16,7 +16,7 @@ void layCurtains(Display* display, const WindowRecord& saver);
 
 /// Starts a picture of its own on each new curtain; where the current context draws in software,
 /// curtains stay black.
-void startPictures(Display* display);
+void startCopies(Display* display);
 
 /// Lifts all curtains.
 void liftCurtains(Display* display);

@@ -270,7 +270,7 @@ bool swapBuffers(NativeWindow window)
     if (record->requests.show && !record->shown)
         putOnScreen(connection(), *record);
     presentFrame(connection(), *record);
-    startPictures(connection());
+    startCopies(connection());
     return true;
 }
 

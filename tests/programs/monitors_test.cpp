@@ -115,6 +115,7 @@ bool copyRuns(const std::vector<Window>& windows)
 
 TEST_F(Monitors, HavePicturesOfTheirOwnThatEndWithTheSaver)
 {
+    define("mirror", leftWidth, 1024 - leftWidth, nullptr); // of the right one: covered with it
     for (const int signal : {SIGTERM, SIGKILL}) {
         ChildProcess saver({QUAZO_ON_HARDWARE, "/s"});
         EXPECT_EQ(curtain(), leftWidth);
