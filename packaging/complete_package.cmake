@@ -4,5 +4,8 @@
 file(INSTALL "${CMAKE_CURRENT_LIST_DIR}/lintian-overrides" RENAME quazo
   DESTINATION "${CPACK_PACKAGING_INSTALL_PREFIX}/share/lintian/overrides")
 execute_process(COMMAND "${CPACK_QUAZO_STRIP}" --remove-section=.comment
-  "$ENV{DESTDIR}${CPACK_PACKAGING_INSTALL_PREFIX}/libexec/xscreensaver/quazo"
+  "$ENV{DESTDIR}${CPACK_PACKAGING_INSTALL_PREFIX}/${CPACK_QUAZO_HOSTS}/quazo"
   COMMAND_ERROR_IS_FATAL ANY)
+# Whatever umask the package is made with, its users may enter its directories.
+file(CHMOD_RECURSE "$ENV{DESTDIR}" DIRECTORY_PERMISSIONS
+  OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
