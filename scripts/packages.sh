@@ -37,7 +37,9 @@ any_installed()
 {
     local package
     for package in "$@"; do
-        [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" != installed ] || return 0
+        # A line for each architecture.
+        ! dpkg-query -W -f='${db:Status-Status}\n' "$package" 2>/dev/null | grep -x installed \
+            >/dev/null || return 0
     done
     return 1
 }
