@@ -42,6 +42,10 @@ done
 makensis -V2 -DVERSION="$version" -DCONTENTS="$contents" -DOUTPUT="$build/quazo-$version-setup.exe" \
     packaging/windows/setup.nsi
 (cd "$contents" && zip -qr "$build/quazo-$version-portable.zip" .)
-zip -qr "$build/quazo-$version-sources.zip" . -x .git '.git/*' 'build/*'
+if git ls-files --error-unmatch README.md >/dev/null 2>&1; then # nothing that only lies beside them
+    git ls-files | zip -q "$build/quazo-$version-sources.zip" -@
+else
+    zip -qr "$build/quazo-$version-sources.zip" . -x 'build/*' '*.tar.gz' '*/__pycache__/*'
+fi
 (cd "$libraries" && zip -qr "$build/quazo-$version-sources.zip" sources)
 ls -l "$build/quazo.scr" "$build"/quazo-*

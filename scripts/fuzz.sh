@@ -33,8 +33,10 @@ fuzz()
     grep "number_of_executed_units" "$build/$1.log"
 }
 
+trap 'exit 130' INT TERM HUP # a fuzzer that is interrupted ends with a status like any other
 failed=0
 for program in "$build"/fuzz/${name:-*}_fuzz; do
+    [ -x "$program" ] || stop "no fuzzer $name"
     fuzz "$(basename "$program" _fuzz)" || failed=1
 done
 exit "$failed"

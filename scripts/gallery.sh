@@ -9,7 +9,7 @@ source scripts/virtual_display.sh
 
 check_checkout
 require_packages $build_packages $run_packages $virtual_display_packages
-cmake --preset release >/dev/null
+cmake --preset release -DBUILD_TESTING=OFF -DQUAZO_BENCH=OFF >/dev/null
 cmake --build --preset release --target quazo data_set
 scratch=$(mktemp -d)
 trap 'kill ${saver:-} ${server:-} 2>/dev/null || true; wait; rm -rf "$scratch"' EXIT
