@@ -8,6 +8,7 @@
 #include "platform/frame_clock.h"
 #include "platform/win32.h"
 #include "tests/support/child_process.h"
+#include "tests/support/temporary_directory.h"
 #include "tests/support/virtual_display.h"
 #include "zrk/gl.h"
 #include "zrk/library_data.h"
@@ -27,7 +28,7 @@ void platform::FrameClock::awaitNextFrame() {}
 namespace {
 
 constexpr const char* dataFile = "###quazo!_data###/caustics.qvd";
-constexpr const char* poolFile = "saver_bench_pool.txt";
+constexpr const char* poolFile = "pool.txt";
 constexpr int poolShaders = 10000;
 constexpr int framesPerRound = 64; // one of the caustics
 
@@ -166,6 +167,7 @@ void wholeFrame(benchmark::State& state)
 
 void parsePool(benchmark::State& state)
 {
+    const TemporaryDirectory directory; // it is the current one now
     std::ofstream file(poolFile);
     for (int i = 0; i < poolShaders; ++i)
         file << "shader" << i << "\n{\n  texture: " << i
@@ -173,7 +175,6 @@ void parsePool(benchmark::State& state)
     file.close();
     while (state.KeepRunning())
         benchmark::DoNotOptimize(zrk::ShaderPool().load(poolFile, nullptr));
-    std::remove(poolFile);
 }
 
 void wholeTimes(benchmark::internal::Benchmark* benchmark)
