@@ -1,5 +1,6 @@
 """The program was built and linked so that a memory error ends it. Its path is the argument."""
 
+import os
 import platform
 import subprocess
 import sys
@@ -20,7 +21,10 @@ EXPECTED = [
 
 
 def output(command):
-    return subprocess.run(command + [PROGRAM], capture_output=True, text=True, check=True).stdout
+    english = os.environ | {"LC_ALL": "C"}
+    return subprocess.run(
+        command + [PROGRAM], capture_output=True, text=True, check=True, env=english
+    ).stdout
 
 
 missing = [text for command, text, least in EXPECTED if output(command).count(text) < least]

@@ -93,7 +93,7 @@ TEST_F(Hosts, HaveTheirWindowFilledUntilTheyAskForTheEnd)
         EXPECT_EQ(saver->wait(), 0);
         EXPECT_EQ(saver->standardError(), "");
     }
-    EXPECT_EQ(childOf(left), 0u);
+    EXPECT_TRUE(User::waitUntil([&] { return childOf(left) == 0; }));
 }
 
 TEST_F(Hosts, EndTheSaverWithTheirWindow)

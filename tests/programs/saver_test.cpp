@@ -68,7 +68,7 @@ TEST_F(Saver, EndsWithStatusZeroAndWithoutAWord)
         ending.act(user, saver, window);
         EXPECT_EQ(saver.wait(), 0);
         EXPECT_EQ(saver.standardError(), "");
-        EXPECT_TRUE(user.mappedWindows().empty());
+        EXPECT_TRUE(User::waitUntil([&] { return user.mappedWindows().empty(); }));
     }
 }
 
