@@ -10,9 +10,9 @@ int firstRandrEvent(Display* display)
 
 bool hasRandr(Display* display, int minor)
 {
-    int major = 0, its = 0;
-    return firstRandrEvent(display) >= 0 && XRRQueryVersion(display, &major, &its) != 0 &&
-           (major > 1 || its >= minor);
+    int major = 0, known = 0;
+    return firstRandrEvent(display) >= 0 && XRRQueryVersion(display, &major, &known) != 0 &&
+           (major > 1 || known >= minor);
 }
 
 ScreenResources screenResources(Display* display)
