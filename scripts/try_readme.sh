@@ -119,6 +119,7 @@ nothing_is_left()
     [ -z "$left" ] || fail "after it is taken out there is still: $left"
 }
 
+command -v apt-get >/dev/null || left_out "the system that it makes is a Debian"
 [ "$(id -u)" -eq 0 ] || left_out "only root makes a system of its own"
 check_checkout
 log=$PWD/build/readme.log
